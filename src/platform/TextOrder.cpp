@@ -1,0 +1,35 @@
+#include "platform/TextOrder.h"
+
+#include <QString>
+
+#include <algorithm>
+
+namespace kesto
+{
+
+namespace
+{
+// Moves the surrogates above the rest of the plane, where the code points that they stand for belong.
+int rank(QChar unit)
+{
+    const int code = unit.unicode();
+    if (code < 0xd800)
+        return code;
+    return unit.isSurrogate() ? code + 0x2000 : code - 0x800;
+}
+} // namespace
+
+int compareLiterally(QStringView left, QStringView right)
+{
+    const auto [inLeft, inRight] = std::mismatch(left.begin(), left.end(), right.begin(), right.end());
+    if (inLeft == left.end() || inRight == right.end())
+        return (left.size() > right.size()) - (left.size() < right.size());
+    return rank(*inLeft) - rank(*inRight);
+}
+
+int compareCaseInsensitively(const QString &left, const QString &right)
+{
+    return compareLiterally(left.toCaseFolded(), right.toCaseFolded());
+}
+
+} // namespace kesto
