@@ -1,0 +1,28 @@
+#include "model/DietModel.h"
+
+#include "model/DietDay.h"
+#include "model/Dish.h"
+#include "model/DishInDietDay.h"
+#include "model/DishesCategory.h"
+#include "model/FoodObject.h"
+#include "model/Image.h"
+#include "model/Ingredient.h"
+#include "model/JornalDay.h"
+#include "model/PurhaseIngredient.h"
+#include "model/TimeObject.h"
+#include "model/TimeRow.h"
+
+namespace kesto
+{
+
+const ManagedObjectModel &dietModel()
+{
+    static const ManagedObjectModel model(
+        "Diet", 1,
+        {DietDay::description(), Dish::description(), DishesCategory::description(), Ingredient::description(),
+         PurhaseIngredient::description(), DishInDietDay::description(), Image::description(), JornalDay::description(),
+         TimeRow::description(), TimeObject::description(), FoodObject::description()});
+    return model;
+}
+
+} // namespace kesto

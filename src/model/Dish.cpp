@@ -1,0 +1,105 @@
+#include "model/Dish.h"
+
+#include "model/DishInDietDay.h"
+#include "model/DishesCategory.h"
+#include "model/Image.h"
+#include "model/Ingredient.h"
+#include "model/Lookup.h"
+#include "platform/Log.h"
+#include "platform/StringTables.h"
+
+#include <algorithm>
+
+namespace kesto
+{
+
+EntityDescription Dish::description()
+{
+    return {"Dish",
+            {{"dishID", AttributeType::String, true},
+             {"nameRU", AttributeType::String, true},
+             {"nameENG", AttributeType::String},
+             {"recipeRU", AttributeType::String},
+             {"recipeENG", AttributeType::String},
+             {"dietPeriod", AttributeType::String},
+             {"recipeNew", AttributeType::Boolean},
+             {"userCreated", AttributeType::Boolean}},
+            {{.name = "dishCategory", .destination = "DishesCategory", .inverse = "dishes"},
+             {.name = "image", .destination = "Image", .inverse = "dish", .deleteRule = DeleteRule::Cascade},
+             {.name = "dishInDietDays",
+              .destination = "DishInDietDay",
+              .inverse = "dish",
+              .toMany = true,
+              .deleteRule = DeleteRule::Cascade},
+             {.name = "ingredientsRU",
+              .destination = "Ingredient",
+              .inverse = "dishRU",
+              .toMany = true,
+              .deleteRule = DeleteRule::Cascade},
+             {.name = "ingredientsENG",
+              .destination = "Ingredient",
+              .inverse = "dishENG",
+              .toMany = true,
+              .deleteRule = DeleteRule::Cascade}},
+            &kTypeTag,
+            &makeObject<Dish>};
+}
+
+DishesCategory *Dish::dishCategory() const { return static_cast<DishesCategory *>(toOne(0)); }
+
+void Dish::setDishCategory(DishesCategory *value) { setToOne(0, value); }
+
+Image *Dish::image() const { return static_cast<Image *>(toOne(1)); }
+
+void Dish::setImage(Image *value) { setToOne(1, value); }
+
+std::vector<DishInDietDay *> Dish::dishInDietDays() const { return objectsAt<DishInDietDay>(0); }
+
+void Dish::addDishInDietDays(DishInDietDay &object) { addToMany(0, &object); }
+
+void Dish::removeDishInDietDays(DishInDietDay &object) { removeFromMany(0, &object); }
+
+std::vector<Ingredient *> Dish::ingredientsRU() const { return objectsAt<Ingredient>(1); }
+
+void Dish::addIngredientsRU(Ingredient &object) { addToMany(1, &object); }
+
+void Dish::removeIngredientsRU(Ingredient &object) { removeFromMany(1, &object); }
+
+std::vector<Ingredient *> Dish::ingredientsENG() const { return objectsAt<Ingredient>(2); }
+
+void Dish::addIngredientsENG(Ingredient &object) { addToMany(2, &object); }
+
+void Dish::removeIngredientsENG(Ingredient &object) { removeFromMany(2, &object); }
+
+Dish &Dish::dishWithID(const QString &dishID, ManagedObjectContext &inManagedObjectContext)
+{
+    StoreError error;
+    if (Dish *known = lastMatch<Dish>(inManagedObjectContext, attribute("dishID") == dishID, &error))
+        return *known;
+    if (!error.description.isNull())
+        log("dishWithID: error - %@", error.description);
+    auto &dish = inManagedObjectContext.insert<Dish>();
+    dish.setDishID(dishID);
+    dish.setRecipeNew(true);
+    return dish;
+}
+
+Dish *Dish::dishWithRusName(const QString &nameRU, ManagedObjectContext &inManagedObjectContext)
+{
+    return lastMatch<Dish>(inManagedObjectContext, attribute("nameRU") == nameRU);
+}
+
+std::vector<Ingredient *> Dish::ingredients() const
+{
+    // The table of each language names the relationship that holds its lines.
+    const RelationshipDescription *list = entity().relationship(localized(QStringLiteral("ingKey")).toStdString());
+    if (list == nullptr || !list->toMany || list->destination != "Ingredient")
+        return {};
+    auto lines = objectsAt<Ingredient>(list->slot);
+    std::stable_sort(lines.begin(), lines.end(), [](const Ingredient *left, const Ingredient *right) {
+        return left->displayOrder() < right->displayOrder();
+    });
+    return lines;
+}
+
+} // namespace kesto

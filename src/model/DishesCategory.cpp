@@ -1,0 +1,65 @@
+#include "model/DishesCategory.h"
+
+#include "model/Dish.h"
+#include "model/Lookup.h"
+#include "platform/Log.h"
+
+#include <QStringList>
+
+namespace kesto
+{
+
+namespace
+{
+
+const QStringList &categoriesInOrder()
+{
+    static const QStringList names{QStringLiteral("Салаты"),
+                                   QStringLiteral("Закуски и бутерброды"),
+                                   QStringLiteral("Первые блюда"),
+                                   QStringLiteral("Вторые блюда"),
+                                   QStringLiteral("Несладкая выпечка"),
+                                   QStringLiteral("Десерты"),
+                                   QStringLiteral("Блины"),
+                                   QStringLiteral("Напитки"),
+                                   QStringLiteral("Соусы")};
+    return names;
+}
+
+} // namespace
+
+EntityDescription DishesCategory::description()
+{
+    return {"DishesCategory",
+            {{"nameRU", AttributeType::String, true},
+             {"nameENG", AttributeType::String},
+             {"displayOrder", AttributeType::UnsignedInteger, true}},
+            {{.name = "dishes", .destination = "Dish", .inverse = "dishCategory", .toMany = true}},
+            &kTypeTag,
+            &makeObject<DishesCategory>};
+}
+
+std::vector<Dish *> DishesCategory::dishes() const { return objectsAt<Dish>(0); }
+
+void DishesCategory::addDishes(Dish &object) { addToMany(0, &object); }
+
+void DishesCategory::removeDishes(Dish &object) { removeFromMany(0, &object); }
+
+DishesCategory &DishesCategory::dishCategoryWirhRusName(const QString &rusName, const QString &engName,
+                                                        ManagedObjectContext &inManagedObjectContext)
+{
+    StoreError error;
+    if (auto *known = lastMatch<DishesCategory>(inManagedObjectContext, attribute("nameRU") == rusName, &error))
+        return *known;
+    if (!error.description.isNull())
+        log("dishCategoryWirhRusName: error - %@", error.description);
+    log("create category - %@|%@", rusName, engName);
+    auto &category = inManagedObjectContext.insert<DishesCategory>();
+    category.setNameRU(rusName);
+    category.setNameENG(engName);
+    const auto position = categoriesInOrder().indexOf(rusName);
+    category.setDisplayOrder(position >= 0 ? static_cast<quint32>(position) : kUnknownOrder);
+    return category;
+}
+
+} // namespace kesto

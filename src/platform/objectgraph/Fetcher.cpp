@@ -1,0 +1,279 @@
+#include "platform/objectgraph/Fetcher.h"
+
+#include "platform/objectgraph/SqlStore.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <map>
+
+namespace kesto
+{
+
+namespace
+{
+
+std::string quoted(const std::string &name) { return '"' + name + '"'; }
+
+/// A JSON array of keys: one bound value for any number of them, so that one prepared statement serves all.
+QByteArray keyList(const std::vector<ManagedObject *> &objects)
+{
+    QByteArray list("[");
+    list.reserve(static_cast<qsizetype>(objects.size()) * 8 + 2);
+    for (const ManagedObject *object : objects)
+        list.append(QByteArray::number(object->objectID())).append(',');
+    if (list.size() > 1)
+        list.chop(1);
+    return list.append(']');
+}
+
+} // namespace
+
+std::string Fetcher::columns(const EntityDescription &entity)
+{
+    std::string list = "\"_pk\"";
+    for (const AttributeDescription &attribute : entity.attributes())
+        list += ", " + quoted(attribute.name);
+    for (const RelationshipDescription &relationship : entity.toOneRelationships())
+        list += ", " + quoted(relationship.name);
+    return list;
+}
+
+std::vector<ManagedObject *> Fetcher::fetch(const EntityDescription &entity, const FetchRequest &request,
+                                            StoreError *error)
+{
+    const bool keysOnly = request.fetchBatchSize > 0;
+    const FetchStatement statement(entity, request, keysOnly);
+    if (!statement.isValid()) {
+        if (error != nullptr)
+            *error = {0, QString::fromStdString(statement.problem())};
+        return {};
+    }
+    const size_t unsaved = context_.objectsOf(entity).changed.size();
+    // Where the condition looks at other objects that have unsaved changes, the store can't decide it.
+    const bool everything =
+        std::any_of(statement.otherEntities().begin(), statement.otherEntities().end(),
+                    [&](const EntityDescription *other) { return !context_.objectsOf(*other).changed.empty(); });
+
+    std::vector<ManagedObject *> found;
+    if (store_ != nullptr) {
+        const auto limit = static_cast<qint64>(request.fetchLimit);
+        const FetchRequest all;
+        const bool read = everything ? readRows(FetchStatement(entity, all, false), entity, false, -1, found, error)
+                                     : readRows(statement, entity, keysOnly,
+                                                limit > 0 ? limit + static_cast<qint64>(unsaved) : -1, found, error);
+        if (!read)
+            return {};
+    }
+    if (unsaved > 0 || everything)
+        addUnsaved(entity, request, everything, found);
+    if (request.fetchLimit > 0 && found.size() > static_cast<size_t>(request.fetchLimit))
+        found.resize(static_cast<size_t>(request.fetchLimit));
+    if (!request.relationshipKeyPathsForPrefetching.empty())
+        prefetch(entity, found, request.relationshipKeyPathsForPrefetching);
+    return found;
+}
+
+bool Fetcher::readRows(const FetchStatement &request, const EntityDescription &entity, bool keysOnly, qint64 limit,
+                       std::vector<ManagedObject *> &found, StoreError *error)
+{
+    SqlStatement statement = store_->statement(request.key(), [&] { return request.sql(); });
+    int result = SQLITE_ERROR;
+    if (statement) {
+        request.bind(statement, limit);
+        result = statement.step();
+        while (result == SQLITE_ROW) {
+            found.push_back(keysOnly ? context_.objectFor(entity, sqlite3_column_int64(statement.get(), 0))
+                                     : context_.materialise(entity, statement));
+            // The last row that may come needs no look behind it.
+            result = static_cast<qint64>(found.size()) == limit ? SQLITE_DONE : statement.step();
+        }
+    }
+    if (result != SQLITE_DONE) {
+        if (error != nullptr)
+            *error = store_->lastError();
+        return false;
+    }
+    if (keysOnly) {
+        auto batch = std::make_shared<ManagedObjectContext::Batch>(found);
+        for (const ManagedObject *object : found) {
+            if (object->state_ == ManagedObject::State::Fault)
+                context_.objectsOf(entity).batches.insert(object->objectID(), batch);
+        }
+    }
+    return true;
+}
+
+void Fetcher::addUnsaved(const EntityDescription &entity, const FetchRequest &request, bool everything,
+                         std::vector<ManagedObject *> &found)
+{
+    std::erase_if(found, [&](const ManagedObject *object) {
+        return object->listed_ || (everything && !matches(request.predicate, *object));
+    });
+    for (ManagedObject *object : context_.objectsOf(entity).changed) {
+        if (!object->isDeleted() && matches(request.predicate, *object))
+            found.push_back(object);
+    }
+    std::vector<std::pair<int, bool>> keys;
+    for (const SortDescriptor &sort : request.sortDescriptors)
+        keys.emplace_back(entity.property(sort.key).slot, sort.ascending);
+    std::sort(found.begin(), found.end(), [&](const ManagedObject *left, const ManagedObject *right) {
+        for (const auto &[slot, ascending] : keys) {
+            if (const int order = compareValues(left->attributeAt(slot), right->attributeAt(slot)); order != 0)
+                return ascending ? order < 0 : order > 0;
+        }
+        return left->objectID() < right->objectID();
+    });
+}
+
+void Fetcher::readFaults(const EntityDescription &entity, const std::vector<ManagedObject *> &faults)
+{
+    if (store_ == nullptr || faults.empty())
+        return;
+    const std::string table = quoted(entity.name());
+    SqlStatement statement = store_->statement("r" + QByteArray(1, static_cast<char>(entity.index())), [&] {
+        return "SELECT " + columns(entity) + " FROM " + table + " WHERE \"_pk\" IN (SELECT value FROM json_each(?))";
+    });
+    if (!statement)
+        return;
+    statement.bindUtf8(1, keyList(faults));
+    while (statement.step() == SQLITE_ROW)
+        context_.materialise(entity, statement);
+}
+
+// What the store says, less what changed in memory since; what was added in memory stands in the set already.
+void Fetcher::adopt(ManagedObject &owner, const RelationshipDescription &relationship,
+                    std::vector<ManagedObject *> rows)
+{
+    ManagedObject::ToManyLink &link = owner.toMany_[relationship.slot];
+    std::erase_if(rows, [&](const ManagedObject *row) {
+        return row->isDeleted() || row->toOne_[relationship.inverseSlot].id != owner.objectID();
+    });
+    for (ManagedObject *added : link.members) {
+        if (std::find(rows.begin(), rows.end(), added) == rows.end())
+            rows.push_back(added);
+    }
+    for (const ManagedObject *row : rows)
+        row->toOne_[relationship.inverseSlot].object = &owner;
+    link.members = std::move(rows);
+    link.loaded = true;
+}
+
+void Fetcher::readToMany(ManagedObject &owner, const RelationshipDescription &relationship)
+{
+    std::vector<ManagedObject *> rows;
+    if (store_ != nullptr && !owner.isInserted()) {
+        const EntityDescription &destination = *relationship.destinationEntity;
+        QByteArray key("m");
+        key.append(static_cast<char>(destination.index())).append(static_cast<char>(relationship.inverseSlot));
+        SqlStatement statement = store_->statement(key, [&] {
+            return "SELECT " + columns(destination) + " FROM " + quoted(destination.name()) + " WHERE " +
+                   quoted(relationship.inverse) + " = ? ORDER BY \"_pk\"";
+        });
+        if (statement) {
+            statement.bind(1, owner.objectID());
+            while (statement.step() == SQLITE_ROW)
+                rows.push_back(context_.materialise(destination, statement));
+        }
+    }
+    adopt(owner, relationship, std::move(rows));
+}
+
+void Fetcher::prefetchToMany(const EntityDescription &destination,
+                             const std::vector<const RelationshipDescription *> &relationships,
+                             const std::vector<ManagedObject *> &owners)
+{
+    QByteArray key("p");
+    key.append(static_cast<char>(destination.index()));
+    for (const RelationshipDescription *relationship : relationships)
+        key.append(static_cast<char>(relationship->inverseSlot));
+    // One part a relationship, which each row names behind its columns: every part can use its own index.
+    SqlStatement statement = store_->statement(key, [&] {
+        std::string sql;
+        for (size_t i = 0; i < relationships.size(); ++i) {
+            sql += (i == 0 ? "SELECT " : " UNION ALL SELECT ") + columns(destination) + ", " + std::to_string(i) +
+                   " FROM " + quoted(destination.name()) + " WHERE " + quoted(relationships[i]->inverse) +
+                   " IN (SELECT value FROM json_each(?1))";
+        }
+        return sql;
+    });
+    if (!statement)
+        return; // each set is then read when it is touched
+    statement.bindUtf8(1, keyList(owners));
+    std::vector<std::vector<ManagedObject *>> rows(relationships.size());
+    int result = statement.step();
+    for (; result == SQLITE_ROW; result = statement.step())
+        rows[static_cast<size_t>(sqlite3_column_int(statement.get(), destination.columnCount() + 1))].push_back(
+            context_.materialise(destination, statement));
+    if (result != SQLITE_DONE)
+        return;
+    const auto inOrder = [](const ManagedObject *left, const ManagedObject *right) {
+        return left->objectID() < right->objectID();
+    };
+    for (size_t i = 0; i < relationships.size(); ++i) {
+        const RelationshipDescription &relationship = *relationships[i];
+        QHash<qint64, std::vector<ManagedObject *>> byOwner;
+        byOwner.reserve(static_cast<qsizetype>(owners.size()));
+        for (ManagedObject *row : rows[i]) {
+            if (const qint64 id = row->toOne_[relationship.inverseSlot].id; id != 0)
+                byOwner[id].push_back(row);
+        }
+        for (ManagedObject *owner : owners) {
+            if (owner->toMany_[relationship.slot].loaded)
+                continue;
+            std::vector<ManagedObject *> members = byOwner.take(owner->objectID());
+            if (!std::is_sorted(members.begin(), members.end(), inOrder))
+                std::sort(members.begin(), members.end(), inOrder);
+            adopt(*owner, relationship, std::move(members));
+        }
+    }
+}
+
+void Fetcher::prefetch(const EntityDescription &entity, const std::vector<ManagedObject *> &objects,
+                       const std::vector<std::string> &paths)
+{
+    if (store_ == nullptr || objects.empty())
+        return;
+    std::map<std::string, std::vector<std::string>> levels; // first step -> what follows it
+    for (const std::string &path : paths) {
+        const size_t point = path.find('.');
+        auto &rest = levels[path.substr(0, point)];
+        if (point != std::string::npos)
+            rest.push_back(path.substr(point + 1));
+    }
+    std::map<const EntityDescription *, std::vector<const RelationshipDescription *>> toMany;
+    for (const auto &[name, rest] : levels) {
+        const RelationshipDescription *relationship = entity.relationship(name);
+        if (relationship == nullptr)
+            continue;
+        if (relationship->toMany) {
+            toMany[relationship->destinationEntity].push_back(relationship);
+            continue;
+        }
+        std::vector<ManagedObject *> faults;
+        for (const ManagedObject *object : objects) {
+            ManagedObject *target = object->toOne(relationship->slot);
+            if (target != nullptr && target->state_ == ManagedObject::State::Fault)
+                faults.push_back(target);
+        }
+        readFaults(*relationship->destinationEntity, faults);
+    }
+    for (const auto &[destination, relationships] : toMany)
+        prefetchToMany(*destination, relationships, objects);
+    for (const auto &[name, rest] : levels) {
+        const RelationshipDescription *relationship = entity.relationship(name);
+        if (relationship == nullptr || rest.empty())
+            continue;
+        std::vector<ManagedObject *> next;
+        for (const ManagedObject *object : objects) {
+            if (relationship->toMany) {
+                const auto members = object->toMany(relationship->slot);
+                next.insert(next.end(), members.begin(), members.end());
+            } else if (ManagedObject *target = object->toOne(relationship->slot))
+                next.push_back(target);
+        }
+        prefetch(*relationship->destinationEntity, next, rest);
+    }
+}
+
+} // namespace kesto

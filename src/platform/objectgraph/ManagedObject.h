@@ -1,0 +1,191 @@
+#pragma once
+
+#include "platform/KeyValueCoding.h"
+#include "platform/objectgraph/AttributeValue.h"
+#include "platform/objectgraph/ManagedObjectModel.h"
+
+#include <QDateTime>
+#include <QList>
+
+#include <array>
+#include <optional>
+#include <vector>
+
+namespace kesto
+{
+
+/// One object of the graph: one row of the store, the same object for the whole life of its context. The context owns
+/// it; a pointer stays valid until the context is destroyed, also after the object was deleted (isDeleted() then,
+/// writes are refused and logged). Values and relationships are read from the store when they are first touched. Main
+/// thread only.
+class ManagedObject : public KeyValueCoding
+{
+public:
+    ~ManagedObject() override = default;
+    ManagedObject(const ManagedObject &) = delete;
+    ManagedObject &operator=(const ManagedObject &) = delete;
+
+    [[nodiscard]] const EntityDescription &entity() const { return entity_; }
+    [[nodiscard]] ManagedObjectContext &managedObjectContext() const { return context_; }
+    /// The row's key: unique within the entity, permanent from insertion on.
+    [[nodiscard]] qint64 objectID() const { return id_; }
+    [[nodiscard]] bool isInserted() const { return state_ == State::Inserted; }
+    [[nodiscard]] bool isDeleted() const { return state_ == State::Deleted || state_ == State::Gone; }
+    [[nodiscard]] bool hasChanges() const { return listed_; }
+
+    /// An attribute (float, qint64, quint32, bool, QString, QDateTime or QByteArray), a to-one relationship
+    /// (ManagedObject *) or a to-many one (QList<ManagedObject *>) by name; invalid when absent. An unknown name is
+    /// logged and gives nothing.
+    [[nodiscard]] QVariant valueForKey(const QString &key) const override;
+    /// An invalid variant clears. False, logged and nothing changed, for an unknown name or a value of another type.
+    bool setValueForKey(const QVariant &value, const QString &key);
+
+    // By position, for the typed accessors of the entity classes.
+    [[nodiscard]] const AttributeValue &attributeAt(int slot) const;
+    void setAttribute(int slot, AttributeValue value);
+    [[nodiscard]] ManagedObject *toOne(int slot) const;
+    void setToOne(int slot, ManagedObject *object);
+    /// A copy: the set may be changed while it is walked.
+    [[nodiscard]] std::vector<ManagedObject *> toMany(int slot) const;
+    [[nodiscard]] size_t toManyCount(int slot) const;
+    void addToMany(int slot, ManagedObject *object);
+    /// Nothing happens when the object is not in the set.
+    void removeFromMany(int slot, ManagedObject *object);
+
+protected:
+    struct ToOneLink
+    {
+        qint64 id = 0;                           ///< key of the other row, 0 is absent
+        mutable ManagedObject *object = nullptr; ///< known once it was touched
+    };
+    struct ToManyLink
+    {
+        bool loaded = false;
+        std::vector<ManagedObject *> members; ///< while not loaded: those added in memory
+    };
+
+    ManagedObject(const EntityDescription &entity, ManagedObjectContext &context, qint64 id)
+        : entity_(entity)
+        , context_(context)
+        , id_(id)
+    {
+    }
+
+    /// Storage lives in the most derived class so that an object is one allocation.
+    void useStorage(AttributeValue *values, ToOneLink *toOne, ToManyLink *toMany)
+    {
+        values_ = values;
+        toOne_ = toOne;
+        toMany_ = toMany;
+    }
+
+private:
+    friend class ManagedObjectContext;
+    friend class Fetcher;
+    friend class Saver;
+
+    /// Fault: the row's values are not read yet. Gone: deleted and saved, or deleted before it was ever saved.
+    enum class State : quint8 { Fault, Clean, Inserted, Updated, Deleted, Gone };
+
+    void fire() const;
+    bool beginChange(int column);
+    ToManyLink &loadedToMany(int slot) const;
+    void link(const RelationshipDescription &relationship, ManagedObject *object);
+    void unlink(const RelationshipDescription &relationship, ManagedObject *object);
+
+    const EntityDescription &entity_;
+    ManagedObjectContext &context_;
+    qint64 id_;
+    quint64 changedColumns_ = 0; ///< bit i: column i behind the key differs from the store
+    State state_ = State::Fault;
+    bool listed_ = false; ///< the context has it among the objects to save
+    AttributeValue *values_ = nullptr;
+    ToOneLink *toOne_ = nullptr;
+    ToManyLink *toMany_ = nullptr;
+};
+
+/// Base of the entity classes: storage for its numbers of attributes, to-one and to-many relationships in the object
+/// itself.
+template <size_t Attributes, size_t ToOnes, size_t ToManys>
+class StoredObject : public ManagedObject
+{
+protected:
+    StoredObject(const EntityDescription &entity, ManagedObjectContext &context, qint64 id)
+        : ManagedObject(entity, context, id)
+    {
+        useStorage(values_.data(), toOne_.data(), toMany_.data());
+    }
+
+    [[nodiscard]] std::optional<float> floatAt(int slot) const
+    {
+        const auto *number = std::get_if<double>(&attributeAt(slot));
+        return number != nullptr ? std::optional(static_cast<float>(*number)) : std::nullopt;
+    }
+    template <class T>
+    [[nodiscard]] std::optional<T> integerAt(int slot) const
+    {
+        const auto *number = std::get_if<qint64>(&attributeAt(slot));
+        return number != nullptr ? std::optional(static_cast<T>(*number)) : std::nullopt;
+    }
+    [[nodiscard]] std::optional<bool> flagAt(int slot) const
+    {
+        const auto *number = std::get_if<qint64>(&attributeAt(slot));
+        return number != nullptr ? std::optional(*number != 0) : std::nullopt;
+    }
+    [[nodiscard]] QString textAt(int slot) const
+    {
+        const auto *text = std::get_if<QString>(&attributeAt(slot));
+        return text != nullptr ? *text : QString();
+    }
+    [[nodiscard]] std::optional<QDateTime> dateAt(int slot) const
+    {
+        const auto *number = std::get_if<qint64>(&attributeAt(slot));
+        return number != nullptr ? std::optional(QDateTime::fromMSecsSinceEpoch(*number, Qt::UTC)) : std::nullopt;
+    }
+    [[nodiscard]] std::optional<QByteArray> bytesAt(int slot) const
+    {
+        const auto *bytes = std::get_if<QByteArray>(&attributeAt(slot));
+        return bytes != nullptr ? std::optional(*bytes) : std::nullopt;
+    }
+
+    void setFloatAt(int slot, std::optional<float> value)
+    {
+        setAttribute(slot, value ? AttributeValue(static_cast<double>(*value)) : AttributeValue());
+    }
+    template <class T>
+    void setIntegerAt(int slot, std::optional<T> value)
+    {
+        setAttribute(slot, value ? AttributeValue(static_cast<qint64>(*value)) : AttributeValue());
+    }
+    void setTextAt(int slot, const QString &value)
+    {
+        setAttribute(slot, value.isNull() ? AttributeValue() : AttributeValue(value));
+    }
+    void setDateAt(int slot, const std::optional<QDateTime> &value)
+    {
+        setAttribute(slot, value && value->isValid() ? AttributeValue(value->toMSecsSinceEpoch()) : AttributeValue());
+    }
+    void setBytesAt(int slot, const std::optional<QByteArray> &value)
+    {
+        setAttribute(slot, value ? AttributeValue(*value) : AttributeValue());
+    }
+    template <class T>
+    [[nodiscard]] std::vector<T *> objectsAt(int slot) const
+    {
+        std::vector<T *> typed;
+        const std::vector<ManagedObject *> members = toMany(slot);
+        typed.reserve(members.size());
+        for (ManagedObject *member : members)
+            typed.push_back(static_cast<T *>(member));
+        return typed;
+    }
+
+private:
+    std::array<AttributeValue, Attributes> values_;
+    std::array<ToOneLink, ToOnes> toOne_;
+    std::array<ToManyLink, ToManys> toMany_;
+};
+
+} // namespace kesto
+
+Q_DECLARE_METATYPE(kesto::ManagedObject *)

@@ -1,0 +1,237 @@
+#include "platform/objectgraph/ManagedObjectContext.h"
+
+#include "platform/Log.h"
+#include "platform/objectgraph/Fetcher.h"
+#include "platform/objectgraph/PersistentStoreCoordinator.h"
+#include "platform/objectgraph/Saver.h"
+#include "platform/objectgraph/SqlStore.h"
+
+#include <QCoreApplication>
+#include <QMetaObject>
+#include <QRandomGenerator>
+
+#include <sqlite3.h>
+
+#include <algorithm>
+
+namespace kesto
+{
+
+namespace
+{
+
+/// Where keys begin while the store can't say which ones it has: far from all of them, so that the objects can be
+/// saved when it can.
+qint64 keyWithoutStore() { return (qint64(1) << 60) + (qint64(QRandomGenerator::system()->generate()) << 24); }
+
+} // namespace
+
+ManagedObjectContext::ManagedObjectContext(PersistentStoreCoordinator &coordinator)
+    : coordinator_(coordinator)
+    , objects_(coordinator.managedObjectModel().entities().size())
+{
+}
+
+ManagedObjectContext::~ManagedObjectContext() = default;
+
+const EntityDescription &ManagedObjectContext::entityForTag(const void *tag) const
+{
+    const EntityDescription *entity = coordinator_.managedObjectModel().entityForTag(tag);
+    Q_ASSERT_X(entity != nullptr, "ManagedObjectContext", "the class is not an entity of this model");
+    return *entity;
+}
+
+ManagedObject &ManagedObjectContext::own(std::unique_ptr<ManagedObject> object)
+{
+    return *owned_.emplace_back(std::move(object));
+}
+
+ManagedObject *ManagedObjectContext::objectFor(const EntityDescription &entity, qint64 id)
+{
+    ManagedObject *&known = objectsOf(entity).registered[id];
+    if (known == nullptr)
+        known = &own(entity.make(*this, id));
+    return known;
+}
+
+ManagedObject *ManagedObjectContext::registeredObject(const EntityDescription &entity, qint64 id) const
+{
+    return objects_[static_cast<size_t>(entity.index())].registered.value(id);
+}
+
+ManagedObject &ManagedObjectContext::insert(const EntityDescription &entity)
+{
+    EntityObjects &objects = objectsOf(entity);
+    if (objects.nextKey == 0) {
+        const auto access = coordinator_.access();
+        const auto largest = access ? access->maximumKey(entity) : std::nullopt;
+        objects.nextKey = largest ? *largest + 1 : keyWithoutStore();
+    }
+    const qint64 id = objects.nextKey++;
+    ManagedObject &object = own(entity.make(*this, id));
+    objects.registered.insert(id, &object);
+    object.state_ = ManagedObject::State::Inserted;
+    for (size_t slot = 0; slot < entity.toManyRelationships().size(); ++slot)
+        object.toMany_[slot].loaded = true; // nothing in the store can point to it
+    noteChange(object);
+    return object;
+}
+
+void ManagedObjectContext::noteChange(ManagedObject &object)
+{
+    if (object.listed_)
+        return;
+    object.listed_ = true;
+    objectsOf(object.entity()).changed.push_back(&object);
+}
+
+void ManagedObjectContext::deleteObject(ManagedObject &object)
+{
+    if (object.isDeleted())
+        return;
+    object.fire();
+    const bool wasInserted = object.isInserted();
+    for (const RelationshipDescription &relationship : object.entity().toManyRelationships()) {
+        for (ManagedObject *member : object.toMany(relationship.slot)) {
+            member->setToOne(relationship.inverseSlot, nullptr);
+            if (relationship.deleteRule == DeleteRule::Cascade)
+                deleteObject(*member);
+        }
+    }
+    for (const RelationshipDescription &relationship : object.entity().toOneRelationships()) {
+        ManagedObject *target = object.toOne(relationship.slot);
+        if (target == nullptr)
+            continue;
+        object.setToOne(relationship.slot, nullptr);
+        if (relationship.deleteRule == DeleteRule::Cascade)
+            deleteObject(*target);
+    }
+    noteChange(object);
+    object.state_ = wasInserted ? ManagedObject::State::Gone : ManagedObject::State::Deleted;
+    if (wasInserted)
+        objectsOf(object.entity()).registered.remove(object.id_);
+}
+
+std::vector<ManagedObject *> ManagedObjectContext::fetch(const EntityDescription &entity, const FetchRequest &request,
+                                                         StoreError *error)
+{
+    if (request.fetchBatchSize > 0)
+        objectsOf(entity).batchSize = request.fetchBatchSize;
+    const auto access = coordinator_.access();
+    return Fetcher(*this, access.store()).fetch(entity, request, error);
+}
+
+ManagedObject *ManagedObjectContext::materialise(const EntityDescription &entity, SqlStatement &row)
+{
+    sqlite3_stmt *statement = row.get();
+    const qint64 id = sqlite3_column_int64(statement, 0);
+    ManagedObject *object = objectFor(entity, id);
+    if (object->state_ != ManagedObject::State::Fault)
+        return object;
+    int column = 1;
+    for (size_t slot = 0; slot < entity.attributes().size(); ++slot, ++column) {
+        AttributeValue &value = object->values_[slot];
+        sqlite3_value *stored = sqlite3_column_value(statement, column); // found once, asked for its type and content
+        switch (sqlite3_value_type(stored)) {
+        case SQLITE_INTEGER:
+            value.emplace<qint64>(sqlite3_value_int64(stored));
+            break;
+        case SQLITE_FLOAT:
+            value.emplace<double>(sqlite3_value_double(stored));
+            break;
+        case SQLITE_TEXT: {
+            const auto *text = reinterpret_cast<const char *>(sqlite3_value_text(stored));
+            value.emplace<QString>(QString::fromUtf8(text, sqlite3_value_bytes(stored)));
+            break;
+        }
+        case SQLITE_BLOB: {
+            const auto *bytes = static_cast<const char *>(sqlite3_value_blob(stored));
+            value = QByteArray("").append(bytes, sqlite3_value_bytes(stored)); // empty is not null
+            break;
+        }
+        default:
+            break;
+        }
+    }
+    for (size_t slot = 0; slot < entity.toOneRelationships().size(); ++slot, ++column)
+        object->toOne_[slot].id = sqlite3_column_int64(statement, column);
+    object->state_ = ManagedObject::State::Clean;
+    return object;
+}
+
+void ManagedObjectContext::fireFault(ManagedObject &object)
+{
+    EntityObjects &objects = objectsOf(object.entity());
+    std::vector<ManagedObject *> faults{&object};
+    if (const auto batch = objects.batches.value(object.id_)) {
+        const auto self = std::find(batch->begin(), batch->end(), &object);
+        for (auto next = self; next != batch->end() && static_cast<int>(faults.size()) < objects.batchSize; ++next) {
+            if (*next != &object && (*next)->state_ == ManagedObject::State::Fault)
+                faults.push_back(*next);
+        }
+    }
+    {
+        const auto access = coordinator_.access();
+        Fetcher(*this, access.store()).readFaults(object.entity(), faults);
+    }
+    for (ManagedObject *fault : faults)
+        objects.batches.remove(fault->id_);
+    if (object.state_ == ManagedObject::State::Fault) {
+        // The row is not there (no store, or a damaged file): an object without values is what can be given.
+        log("%@ %ld could not be read", QString::fromStdString(object.entity().name()), object.id_);
+        object.state_ = ManagedObject::State::Clean;
+    }
+}
+
+void ManagedObjectContext::loadToMany(ManagedObject &owner, int slot)
+{
+    const auto access = coordinator_.access();
+    Fetcher(*this, access.store()).readToMany(owner, owner.entity().toManyRelationships()[static_cast<size_t>(slot)]);
+}
+
+bool ManagedObjectContext::save(StoreError *error)
+{
+    if (!hasChanges())
+        return true;
+    const auto access = coordinator_.access();
+    if (!access) {
+        if (error != nullptr)
+            *error = {0, QStringLiteral("no persistent store is attached")};
+        return false;
+    }
+    if (!Saver(*this, *access.store()).save(error))
+        return false;
+    access->checkpoint(false);
+    if (access->checkpointIsDue())
+        checkpointLater();
+    return true;
+}
+
+bool ManagedObjectContext::hasChanges() const
+{
+    // What was inserted and deleted again needs no save.
+    return std::any_of(objects_.begin(), objects_.end(), [](const EntityObjects &objects) {
+        return std::any_of(objects.changed.begin(), objects.changed.end(),
+                           [](const ManagedObject *object) { return object->state_ != ManagedObject::State::Gone; });
+    });
+}
+
+// A long log is moved into the file when the event loop has nothing better to do, not while a save makes somebody wait.
+void ManagedObjectContext::checkpointLater()
+{
+    if (checkpointPending_ || QCoreApplication::instance() == nullptr)
+        return;
+    checkpointPending_ = true;
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(),
+        [this, alive = std::weak_ptr<bool>(alive_)] {
+            if (alive.expired())
+                return;
+            checkpointPending_ = false;
+            if (const auto access = coordinator_.access())
+                access->checkpoint(true);
+        },
+        Qt::QueuedConnection);
+}
+
+} // namespace kesto

@@ -1,0 +1,281 @@
+#include "platform/objectgraph/PersistentStoreCoordinator.h"
+
+#include "platform/objectgraph/SqlStore.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <sqlite3.h>
+
+#include <chrono>
+#include <filesystem>
+#include <optional>
+
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+namespace kesto
+{
+
+namespace
+{
+
+const QString kAlreadyMoving = QStringLiteral("the persistent store is being moved to another file");
+constexpr int kPagesPerStep = 64; // a quarter of a megabyte: a writer waits a millisecond at most
+
+/// Makes a rename last over a loss of power.
+void syncFolderOf(const QString &path)
+{
+#ifdef Q_OS_UNIX
+    const int folder = ::open(QFile::encodeName(QFileInfo(path).absolutePath()).constData(), O_RDONLY | O_CLOEXEC);
+    if (folder < 0)
+        return;
+    (void)::fsync(folder); // some file systems refuse, there it is not needed
+    ::close(folder);
+#else
+    Q_UNUSED(path)
+#endif
+}
+
+void removeWithLog(const QString &path)
+{
+    for (const char *suffix : {"-wal", "-shm", "-journal", ""})
+        QFile::remove(path + QLatin1String(suffix));
+}
+
+/// Puts a finished copy in the target's place. A log that a killed process left beside the target goes first: SQLite
+/// would replay it into the new file. Until the rename the source is the complete file, from then on the target.
+bool install(const QString &temporary, const QString &path, StoreError &error)
+{
+    for (const char *suffix : {"-wal", "-shm", "-journal"})
+        QFile::remove(path + QLatin1String(suffix));
+    std::error_code failure;
+    std::filesystem::rename(QFile::encodeName(temporary).toStdString(), QFile::encodeName(path).toStdString(), failure);
+    if (failure) {
+        error = {0, QString::fromStdString(failure.message())};
+        return false;
+    }
+    syncFolderOf(path);
+    return true;
+}
+
+} // namespace
+
+/// A copy of the attached store's pages, made in small steps under the lock.
+class PersistentStoreCoordinator::CopySteps
+{
+public:
+    CopySteps(const PersistentStoreCoordinator &coordinator, sqlite3 *target, const QString &path)
+        : coordinator_(coordinator)
+        , target_(target)
+    {
+        const Access source = coordinator_.access();
+        if (!source)
+            problem_ = QStringLiteral("no persistent store is attached");
+        else if (QFileInfo(source->path()) == QFileInfo(path))
+            problem_ = QStringLiteral("%1 is the attached store itself").arg(path);
+        else
+            steps_ = sqlite3_backup_init(target, "main", source->handle(), "main");
+    }
+    ~CopySteps()
+    {
+        const Access source = coordinator_.access();
+        sqlite3_backup_finish(steps_);
+    }
+    CopySteps(const CopySteps &) = delete;
+    CopySteps &operator=(const CopySteps &) = delete;
+
+    /// Copies while others get in between, until what is left is little.
+    bool runUntilNearlyDone()
+    {
+        for (int pages = 0; steps_ != nullptr; pages = kPagesPerStep) {
+            {
+                // The first time it only counts. The last page is left for finish(): a backup that is done does not
+                // follow the writers any more.
+                const Access source = coordinator_.access();
+                if (sqlite3_backup_step(steps_, pages) != SQLITE_OK)
+                    return false;
+                if (sqlite3_backup_remaining(steps_) <= kPagesPerStep)
+                    return true;
+            }
+            std::this_thread::sleep_for(std::chrono::microseconds(200)); // the lock is not fair
+        }
+        return false;
+    }
+
+    /// Copies the rest and commits the copy. The caller holds the lock from before this until the copy is in use.
+    bool finish()
+    {
+        const int result = sqlite3_backup_step(steps_, -1);
+        const int committed = sqlite3_backup_finish(steps_);
+        steps_ = nullptr;
+        return result == SQLITE_DONE && committed == SQLITE_OK;
+    }
+
+    bool fail(StoreError &error) const
+    {
+        error = problem_.isNull()
+                    ? StoreError{sqlite3_extended_errcode(target_), QString::fromUtf8(sqlite3_errmsg(target_))}
+                    : StoreError{0, problem_};
+        return false;
+    }
+
+private:
+    const PersistentStoreCoordinator &coordinator_;
+    sqlite3 *target_;
+    sqlite3_backup *steps_ = nullptr;
+    QString problem_;
+};
+
+PersistentStoreCoordinator::PersistentStoreCoordinator(const ManagedObjectModel &model)
+    : model_(model)
+{
+}
+
+PersistentStoreCoordinator::~PersistentStoreCoordinator() { waitForBackgroundWork(); }
+
+void PersistentStoreCoordinator::performLocked(std::function<void()> work)
+{
+    std::unique_lock lock(mutex_);
+    attached_.wait(lock, [this] { return !attaching_; });
+    attaching_ = true;
+    const std::lock_guard threadsLock(threadsMutex_);
+    threads_.emplace_back([this, work = std::move(work)] {
+        {
+            const std::lock_guard attach(mutex_);
+            attacher_ = std::this_thread::get_id();
+        }
+        work();
+        {
+            const std::lock_guard attach(mutex_);
+            attaching_ = false;
+        }
+        attached_.notify_all();
+    });
+}
+
+void PersistentStoreCoordinator::perform(std::function<void()> work)
+{
+    const std::lock_guard lock(threadsMutex_);
+    threads_.emplace_back(std::move(work));
+}
+
+void PersistentStoreCoordinator::waitForBackgroundWork()
+{
+    for (;;) {
+        std::vector<std::thread> running;
+        {
+            const std::lock_guard lock(threadsMutex_);
+            running.swap(threads_);
+        }
+        if (running.empty())
+            return;
+        for (std::thread &thread : running)
+            thread.join();
+    }
+}
+
+PersistentStoreCoordinator::Access PersistentStoreCoordinator::access() const
+{
+    std::unique_lock lock(mutex_);
+    if (attaching_ && std::this_thread::get_id() != attacher_)
+        attached_.wait(lock, [this] { return !attaching_; });
+    return {std::move(lock), store_.get()};
+}
+
+bool PersistentStoreCoordinator::addPersistentStore(const QString &path, const PersistentStoreOptions &options,
+                                                    StoreError *error)
+{
+    const auto lock = access();
+    if (moving_) {
+        if (error != nullptr)
+            *error = {0, kAlreadyMoving};
+        return false;
+    }
+    auto opened = SqlStore::open(path, model_, error);
+    if (opened == nullptr)
+        return false;
+    store_ = std::move(opened);
+    options_ = options;
+    return true;
+}
+
+QString PersistentStoreCoordinator::persistentStorePath() const
+{
+    const auto lock = access();
+    return lock ? lock->path() : QString();
+}
+
+PersistentStoreOptions PersistentStoreCoordinator::persistentStoreOptions() const
+{
+    const auto lock = access();
+    return options_;
+}
+
+bool PersistentStoreCoordinator::migratePersistentStore(const QString &path, const PersistentStoreOptions &options,
+                                                        const std::function<void()> &beforeUse, StoreError *error)
+{
+    {
+        const auto lock = access();
+        if (moving_) {
+            if (error != nullptr)
+                *error = {0, kAlreadyMoving};
+            return false;
+        }
+        moving_ = true;
+    }
+    const QString temporary = path + QStringLiteral(".migrating");
+    removeWithLog(temporary); // what a killed move left
+    StoreError reason;
+    bool moved = false;
+    try {
+        moved = copyAndInstall(temporary, path, options, beforeUse, reason);
+    } catch (const SQLite::Exception &exception) {
+        reason = {exception.getExtendedErrorCode(), QString::fromUtf8(exception.what())};
+    }
+    removeWithLog(temporary);
+    if (!moved && error != nullptr)
+        *error = reason;
+    const auto lock = access();
+    moving_ = false;
+    return moved;
+}
+
+bool PersistentStoreCoordinator::copyAndInstall(const QString &temporary, const QString &path,
+                                                const PersistentStoreOptions &options,
+                                                const std::function<void()> &beforeUse, StoreError &error)
+{
+    std::optional<SQLite::Database> copy(std::in_place, QFile::encodeName(temporary).toStdString(),
+                                         SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    copy->exec("PRAGMA locking_mode=EXCLUSIVE");
+    copy->exec("PRAGMA synchronous=FULL");
+    // It reads through the writers' own connection, so that SQLite carries a write made meanwhile into the copy, too.
+    CopySteps steps(*this, copy->getHandle(), path);
+    if (!steps.runUntilNearlyDone())
+        return steps.fail(error);
+    const Access source = access();
+    if (!steps.finish())
+        return steps.fail(error);
+    if (copy->execAndGet("PRAGMA quick_check").getString() != "ok") {
+        error = {0, QStringLiteral("the copy for %1 is damaged").arg(path)};
+        return false;
+    }
+    copy.reset(); // with its lock on the file
+    if (!install(temporary, path, error))
+        return false;
+    auto opened = SqlStore::open(path, model_, &error);
+    if (opened == nullptr) {
+        removeWithLog(path);
+        return false;
+    }
+    if (beforeUse)
+        beforeUse();
+    store_ = std::move(opened);
+    options_ = options;
+    return true;
+}
+
+} // namespace kesto

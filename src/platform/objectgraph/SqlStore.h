@@ -1,0 +1,105 @@
+#pragma once
+
+#include "platform/objectgraph/ManagedObjectModel.h"
+#include "platform/objectgraph/StoreError.h"
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+
+#include <memory>
+#include <optional>
+#include <string>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace SQLite
+{
+class Database;
+}
+
+namespace kesto
+{
+
+/// A prepared statement that goes back to its start when this handle ends.
+class SqlStatement
+{
+public:
+    explicit SqlStatement(sqlite3_stmt *statement)
+        : statement_(statement)
+    {
+    }
+    ~SqlStatement();
+    SqlStatement(const SqlStatement &) = delete;
+    SqlStatement &operator=(const SqlStatement &) = delete;
+
+    /// Null when it could not be prepared; SqlStore::lastError() tells why.
+    [[nodiscard]] sqlite3_stmt *get() const { return statement_; }
+    explicit operator bool() const { return statement_ != nullptr; }
+
+    /// The value must stay as it is until the statement has run. Texts and bytes are not copied.
+    void bind(int position, const AttributeValue &value);
+    void bind(int position, qint64 value);
+    void bindUtf8(int position, const QByteArray &value);
+
+    /// SQLITE_ROW, SQLITE_DONE or an error code.
+    [[nodiscard]] int step();
+    /// Back to the start, to be bound and run again.
+    void rewind();
+
+private:
+    sqlite3_stmt *statement_;
+    std::vector<QByteArray> texts_; // UTF-8 of bound texts
+};
+
+/// One open store file: the connection (exclusive, write-ahead log, every commit synced), the schema and prepared
+/// statements. Not thread-safe: the coordinator's lock guards it.
+class SqlStore
+{
+public:
+    /// Opens or makes the file and brings it to the model: what a file of an older version lacks is added, the rest
+    /// stays. Nothing, with the reason, when the file can't be used: it is locked by another process, was written by a
+    /// newer version, is not ours or not a database; it is left untouched then.
+    static std::unique_ptr<SqlStore> open(const QString &path, const ManagedObjectModel &model, StoreError *error);
+    ~SqlStore();
+
+    [[nodiscard]] const QString &path() const { return path_; }
+    [[nodiscard]] sqlite3 *handle() const;
+
+    /// A statement kept by a key that stands for its text: makeSql() gives the text the first time.
+    template <class MakeSql>
+    SqlStatement statement(const QByteArray &key, const MakeSql &makeSql)
+    {
+        const auto found = statements_.constFind(key);
+        return SqlStatement(found != statements_.constEnd() ? *found : prepare(key, makeSql()));
+    }
+
+    [[nodiscard]] bool execute(const char *sql, StoreError *error);
+    [[nodiscard]] StoreError lastError() const;
+
+    /// The largest key among the rows of an entity, 0 when there are none; nothing when it can't be read.
+    [[nodiscard]] std::optional<qint64> maximumKey(const EntityDescription &entity);
+
+    /// To be called after each commit: moves a long log into the file. With `mayTakeTime` false only a very long one.
+    void checkpoint(bool mayTakeTime);
+    [[nodiscard]] bool checkpointIsDue() const { return logPages_ > kPagesBeforeCheckpoint; }
+
+private:
+    static constexpr int kPagesBeforeCheckpoint = 1000;
+    static constexpr int kPagesBeforeForcedCheckpoint = 16000;
+
+    SqlStore(QString path, std::unique_ptr<SQLite::Database> database);
+    [[nodiscard]] sqlite3_stmt *prepare(const QByteArray &key, const std::string &sql);
+    [[nodiscard]] std::optional<StoreError> prepareFile(const ManagedObjectModel &model);
+    void bringToModel(const ManagedObjectModel &model);
+    void startLog();
+    static int pagesLogged(void *self, sqlite3 *, const char *, int pages);
+
+    QString path_;
+    std::unique_ptr<SQLite::Database> database_;
+    QHash<QByteArray, sqlite3_stmt *> statements_;
+    int logPages_ = 0;
+};
+
+} // namespace kesto

@@ -1,0 +1,281 @@
+#include "model/DietDay.h"
+#include "model/DietModel.h"
+#include "model/Dish.h"
+#include "model/DishInDietDay.h"
+#include "model/DishesCategory.h"
+#include "model/Ingredient.h"
+#include "model/JornalDay.h"
+#include "platform/objectgraph/ManagedObjectContext.h"
+#include "platform/objectgraph/PersistentStoreCoordinator.h"
+#include "platform/objectgraph/SqlStore.h"
+#include "support/LogCapture.h"
+#include "support/TestPlatform.h"
+
+#include <gmock/gmock.h>
+
+#include <functional>
+#include <memory>
+
+namespace kesto::test
+{
+
+namespace
+{
+
+using testing::ElementsAre;
+
+class OperationsTest : public testing::Test
+{
+protected:
+    explicit OperationsTest(const QString &language = QStringLiteral("ru"))
+        : platform_({.language = language})
+    {
+        reopen();
+    }
+
+    void reopen()
+    {
+        context_.reset();
+        coordinator_ = std::make_unique<PersistentStoreCoordinator>(dietModel());
+        ASSERT_TRUE(coordinator_->addPersistentStore(platform_.folder() + QStringLiteral("/Diet.sqlite"), {}));
+        context_ = std::make_unique<ManagedObjectContext>(*coordinator_);
+    }
+    void breakTable(const char *table)
+    {
+        ASSERT_TRUE(coordinator_->access()->execute((std::string("DROP TABLE ") + table).c_str(), nullptr));
+    }
+
+    /// The names of the ingredients of a dish that has four in each language.
+    std::vector<std::string> ingredients()
+    {
+        auto &dish = context_->insert<Dish>();
+        for (const int place : {10, 2, 0, 1}) {
+            auto &russian = context_->insert<Ingredient>();
+            russian.setName(QStringLiteral("ru%1").arg(place));
+            russian.setDisplayOrder(place);
+            russian.setDishRU(&dish);
+            auto &english = context_->insert<Ingredient>();
+            english.setName(QStringLiteral("en%1").arg(place));
+            english.setDisplayOrder(place);
+            english.setDishENG(&dish);
+        }
+        std::vector<std::string> names;
+        for (const Ingredient *line : dish.ingredients())
+            names.push_back(line->name().toStdString());
+        return names;
+    }
+
+    TestPlatform platform_;
+    std::unique_ptr<PersistentStoreCoordinator> coordinator_;
+    std::unique_ptr<ManagedObjectContext> context_;
+    const QDateTime midnight_ = platform_.date(2024, 3, 31);
+};
+
+class EnglishOperationsTest : public OperationsTest
+{
+protected:
+    EnglishOperationsTest()
+        : OperationsTest(QStringLiteral("en"))
+    {
+    }
+};
+
+TEST_F(OperationsTest, ADayIsFoundByItsExactInstantOrMadeAndSaved)
+{
+    EXPECT_EQ(DietDay::dayWithoutCreation(midnight_, *context_), nullptr);
+    EXPECT_TRUE(context_->fetch<DietDay>().empty());
+    DietDay &day = DietDay::dietDatWithDate(midnight_, *context_);
+    EXPECT_FALSE(context_->hasChanges()); // saved at once
+    EXPECT_EQ(&DietDay::dietDatWithDate(midnight_, *context_), &day);
+    EXPECT_EQ(DietDay::dayWithoutCreation(midnight_.toUTC(), *context_), &day);
+    for (const qint64 distance : {1, -1, 1000})
+        EXPECT_EQ(DietDay::dayWithoutCreation(midnight_.addMSecs(distance), *context_), nullptr);
+    EXPECT_NE(&DietDay::dietDatWithDate(midnight_.addSecs(1), *context_), &day);
+    reopen();
+    EXPECT_EQ(context_->fetch<DietDay>().size(), 2U);
+    DietDay *again = DietDay::dayWithoutCreation(midnight_, *context_);
+    ASSERT_NE(again, nullptr);
+    EXPECT_EQ(again->date(), midnight_);
+    EXPECT_TRUE(again->isEmpty());
+    EXPECT_EQ(&DietDay::dietDatWithDate(midnight_, *context_), again);
+    // Of two days of one instant it is always the same.
+    auto &twin = context_->insert<DietDay>();
+    twin.setDate(midnight_);
+    EXPECT_EQ(&DietDay::dietDatWithDate(midnight_, *context_), again);
+    ASSERT_TRUE(context_->save());
+    reopen();
+    EXPECT_EQ(DietDay::dayWithoutCreation(midnight_, *context_)->objectID(),
+              DietDay::dayWithoutCreation(midnight_, *context_)->objectID());
+    EXPECT_EQ(context_->fetch<DietDay>().size(), 3U);
+}
+
+TEST_F(OperationsTest, OnlyPresenceMakesADayNonEmpty)
+{
+    const struct
+    {
+        const char *what;
+        std::function<void(DietDay &)> change;
+        bool isEmpty;
+    } table[] = {
+        {"nothing", [](DietDay &) {}, true},
+        {"a biceps and three dishes",
+         [this](DietDay &day) {
+             day.setBiceps(42.0F);
+             for (int i = 0; i < 3; ++i)
+                 day.addDishes(context_->insert<DishInDietDay>());
+         },
+         true},
+        {"biceps, dishes, and no feast",
+         [this](DietDay &day) {
+             day.setBiceps(42.0F);
+             day.addDishes(context_->insert<DishInDietDay>());
+             day.setFeast(false);
+         },
+         false},
+        {"weight 0", [](DietDay &day) { day.setWeight(0.0F); }, false},
+        {"chest", [](DietDay &day) { day.setChest(0.0F); }, false},
+        {"hip", [](DietDay &day) { day.setHip(0.0F); }, false},
+        {"waist", [](DietDay &day) { day.setWaist(0.0F); }, false},
+        {"no chB", [](DietDay &day) { day.setChB(false); }, false},
+        {"no bO", [](DietDay &day) { day.setBO(false); }, false},
+        {"feast", [](DietDay &day) { day.setFeast(true); }, false},
+        {"a journal", [this](DietDay &day) { day.setJornalDay(&context_->insert<JornalDay>()); }, false},
+        {"a weight that was taken back",
+         [](DietDay &day) {
+             day.setWeight(80.0F);
+             day.setWeight(std::nullopt);
+         },
+         true},
+    };
+    int days = 0;
+    for (const auto &[what, change, isEmpty] : table) {
+        const QDateTime date = midnight_.addDays(++days);
+        change(DietDay::dietDatWithDate(date, *context_));
+        EXPECT_EQ(DietDay::dayWithoutCreation(date, *context_)->isEmpty(), isEmpty) << what;
+        ASSERT_TRUE(context_->save());
+        reopen();
+        EXPECT_EQ(DietDay::dayWithoutCreation(date, *context_)->isEmpty(), isEmpty) << what << ", reopened";
+    }
+}
+
+TEST_F(OperationsTest, ADishIsFoundByItsIdentifierOrMadeAsNewAndNotSaved)
+{
+    const QString id = QStringLiteral("d1");
+    Dish &dish = Dish::dishWithID(id, *context_);
+    EXPECT_EQ(dish.dishID(), id);
+    EXPECT_EQ(dish.recipeNew(), true);
+    EXPECT_FALSE(dish.userCreated().has_value());
+    EXPECT_TRUE(context_->hasChanges());
+    EXPECT_EQ(&Dish::dishWithID(id, *context_), &dish); // also before it is saved
+    EXPECT_NE(&Dish::dishWithID(QStringLiteral("D1"), *context_), &dish);
+    for (const std::optional<bool> opened : {std::optional(false), std::optional<bool>()}) {
+        Dish::dishWithID(id, *context_).setRecipeNew(opened);
+        ASSERT_TRUE(context_->save());
+        reopen();
+        EXPECT_EQ(Dish::dishWithID(id, *context_).recipeNew(), opened);
+        EXPECT_FALSE(context_->hasChanges());
+    }
+    const QString name = QStringLiteral("Щи «зелёные» 100%");
+    EXPECT_EQ(Dish::dishWithRusName(name, *context_), nullptr);
+    Dish::dishWithID(id, *context_).setNameRU(name);
+    EXPECT_EQ(Dish::dishWithRusName(name, *context_), &Dish::dishWithID(id, *context_));
+    EXPECT_EQ(Dish::dishWithRusName(name.toUpper(), *context_), nullptr);
+    EXPECT_EQ(Dish::dishWithRusName(name.chopped(1), *context_), nullptr);
+    EXPECT_EQ(context_->fetch<Dish>().size(), 2U);
+}
+
+TEST_F(OperationsTest, ACategoryKeepsItsFirstEnglishNameAndHasItsPlace)
+{
+    const char *const nine[] = {"Салаты",
+                                "Закуски и бутерброды",
+                                "Первые блюда",
+                                "Вторые блюда",
+                                "Несладкая выпечка",
+                                "Десерты",
+                                "Блины",
+                                "Напитки",
+                                "Соусы"};
+    const auto category = [&](const char *rus, const char *eng) -> DishesCategory & {
+        return DishesCategory::dishCategoryWirhRusName(QString::fromUtf8(rus), QString::fromUtf8(eng), *context_);
+    };
+    LogCapture log;
+    category("соусы", "lower case");
+    category("Прочее", "Other");
+    for (size_t i = std::size(nine); i-- > 0;)
+        category(nine[i], ("eng" + std::to_string(i)).c_str());
+    EXPECT_EQ(log.lines().size(), 11);
+    EXPECT_EQ(log.lines().at(1), QStringLiteral("create category - Прочее|Other"));
+    EXPECT_EQ(log.take().at(2), QStringLiteral("create category - Соусы|eng8"));
+    EXPECT_TRUE(context_->hasChanges()); // not saved here
+    ASSERT_TRUE(context_->save());
+    reopen();
+    DishesCategory &sauces = category("Соусы", "Another");
+    EXPECT_EQ(sauces.nameENG(), QStringLiteral("eng8"));
+    EXPECT_EQ(sauces.displayOrder(), 8U);
+    sauces.setDisplayOrder(3);
+    EXPECT_EQ(category("Соусы", "Another").displayOrder(), 3U); // as it is
+    sauces.setDisplayOrder(8);
+    EXPECT_TRUE(log.lines().isEmpty());
+    EXPECT_EQ(category("Прочее", "").displayOrder(), 4'294'967'295U);
+    const auto sorted = context_->fetch<DishesCategory>({.sortDescriptors = {{"displayOrder"}}});
+    ASSERT_EQ(sorted.size(), 11U);
+    for (size_t i = 0; i < std::size(nine); ++i) {
+        EXPECT_EQ(sorted[i]->nameRU(), QString::fromUtf8(nine[i]));
+        EXPECT_EQ(sorted[i]->displayOrder(), i);
+    }
+    EXPECT_EQ(sorted.back()->nameRU(), QStringLiteral("Прочее"));
+}
+
+TEST_F(OperationsTest, AFreeIngredientIsFoundByItsExactNameOrMadeAndSaved)
+{
+    const QString name = QStringLiteral("Яйцо — 2 шт.");
+    Ingredient &egg = Ingredient::ingredientWithName(name, *context_);
+    EXPECT_FALSE(context_->hasChanges());
+    EXPECT_EQ(egg.name(), name);
+    EXPECT_FALSE(egg.displayOrder().has_value());
+    EXPECT_EQ(egg.dishRU(), nullptr);
+    EXPECT_EQ(egg.dishENG(), nullptr);
+    const qint64 key = egg.objectID();
+    reopen();
+    EXPECT_EQ(Ingredient::ingredientWithName(name, *context_).objectID(), key);
+    EXPECT_NE(Ingredient::ingredientWithName(name.toLower(), *context_).objectID(), key);
+    EXPECT_EQ(context_->fetch<Ingredient>().size(), 2U);
+}
+
+TEST_F(OperationsTest, IngredientsAreTheRussianOnesInTheirOrder)
+{
+    EXPECT_THAT(ingredients(), ElementsAre("ru0", "ru1", "ru2", "ru10"));
+    EXPECT_TRUE(context_->insert<Dish>().ingredients().empty());
+}
+
+TEST_F(EnglishOperationsTest, IngredientsAreTheEnglishOnesInTheirOrder)
+{
+    EXPECT_THAT(ingredients(), ElementsAre("en0", "en1", "en2", "en10"));
+}
+
+TEST_F(OperationsTest, AFetchThatFailsIsLoggedAndCountsAsNoMatch)
+{
+    (void)Dish::dishWithID(QStringLiteral("d1"), *context_);
+    (void)DishesCategory::dishCategoryWirhRusName(QStringLiteral("Супы"), QStringLiteral("Soups"), *context_);
+    ASSERT_TRUE(context_->save());
+    for (const char *table : {"Dish", "DishesCategory", "DietDay", "Ingredient"})
+        breakTable(table);
+    LogCapture log;
+    Dish &dish = Dish::dishWithID(QStringLiteral("d1"), *context_);
+    EXPECT_TRUE(dish.isInserted());
+    ASSERT_EQ(log.lines().size(), 1);
+    EXPECT_TRUE(log.take().front().contains(QStringLiteral("no such table")));
+    EXPECT_TRUE(DishesCategory::dishCategoryWirhRusName(QStringLiteral("Супы"), QStringLiteral("Soups"), *context_)
+                    .isInserted());
+    EXPECT_TRUE(log.lines().front().startsWith(QStringLiteral("dishCategoryWirhRusName: error - no such table")));
+    EXPECT_EQ(log.lines().back(), QStringLiteral("create category - Супы|Soups"));
+    // Saves that fail are nobody's trouble here; the objects are there.
+    EXPECT_EQ(DietDay::dietDatWithDate(midnight_, *context_).date(), midnight_);
+    EXPECT_EQ(Ingredient::ingredientWithName(QStringLiteral("Соль"), *context_).name(), QStringLiteral("Соль"));
+    EXPECT_EQ(DietDay::dayWithoutCreation(midnight_, *context_), nullptr);
+    EXPECT_TRUE(context_->hasChanges());
+}
+
+} // namespace
+
+} // namespace kesto::test
