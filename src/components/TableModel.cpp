@@ -1,0 +1,364 @@
+#include "components/TableModel.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace kesto
+{
+
+namespace
+{
+
+/// One line of a section, to compare and to find what it is.
+struct Line
+{
+    TableModel::LineType type = TableModel::LineType::Row;
+    int row = -1;
+};
+
+int lineCount(const TableSection &section)
+{
+    return static_cast<int>(section.rows.size()) + (section.header.isNull() ? 0 : 1) +
+           (section.footer.isNull() ? 0 : 1);
+}
+
+Line lineAt(const TableSection &section, int offset)
+{
+    const int header = section.header.isNull() ? 0 : 1;
+    if (offset < header)
+        return {.type = TableModel::LineType::Header};
+    const int row = offset - header;
+    return row < section.rows.size() ? Line{.row = row} : Line{.type = TableModel::LineType::Footer};
+}
+
+bool equalLines(const TableSection &left, int leftOffset, const TableSection &right, int rightOffset)
+{
+    const Line one = lineAt(left, leftOffset);
+    const Line other = lineAt(right, rightOffset);
+    if (one.type != other.type)
+        return false;
+    switch (one.type) {
+    case TableModel::LineType::Header:
+        return left.header == right.header;
+    case TableModel::LineType::Footer:
+        return left.footer == right.footer;
+    case TableModel::LineType::Row:
+        break;
+    }
+    return left.rows.at(one.row) == right.rows.at(other.row);
+}
+
+TableSection withoutLines(TableSection section, int first, int count)
+{
+    for (int offset = first + count - 1; offset >= first; --offset) {
+        const Line line = lineAt(section, offset);
+        if (line.type == TableModel::LineType::Row)
+            section.rows.removeAt(line.row);
+        else
+            (line.type == TableModel::LineType::Header ? section.header : section.footer) = QString();
+    }
+    return section;
+}
+
+} // namespace
+
+int TableModel::rowCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : firstLines_.last(); }
+
+QHash<int, QByteArray> TableModel::roleNames() const
+{
+    return {{TypeRole, "type"},
+            {SectionRole, "section"},
+            {RowRole, "row"},
+            {IsFirstRole, "isFirst"},
+            {IsLastRole, "isLast"},
+            {KindRole, "kind"},
+            {TitleRole, "title"},
+            {SubtitleRole, "subtitle"},
+            {DetailRole, "detail"},
+            {ImageRole, "image"},
+            {AccessoryRole, "accessory"},
+            {CheckedRole, "checked"},
+            {OnRole, "on"},
+            {SelectedRole, "selected"},
+            {EnabledRole, "enabled"},
+            {SelectableRole, "selectable"},
+            {DestructiveRole, "destructive"},
+            {StruckThroughRole, "struckThrough"},
+            {CanDeleteRole, "canDelete"},
+            {CanMoveRole, "canMove"},
+            {TagRole, "tag"},
+            {TextRole, "text"},
+            {PlaceholderRole, "placeholder"},
+            {UnitRole, "unit"},
+            {KeyboardRole, "keyboard"},
+            {ColorRole, "color"},
+            {BadgesRole, "badges"},
+            {CellRole, "cell"},
+            {ValueRole, "value"},
+            {PickerRole, "picker"}};
+}
+
+QVariant TableModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid() || index.row() >= rowCount())
+        return {};
+    // The last section that begins at or before the line: of empty sections none has a line.
+    const auto after = std::upper_bound(firstLines_.begin(), firstLines_.end() - 1, index.row());
+    const int number = static_cast<int>(std::distance(firstLines_.begin(), after)) - 1;
+    const TableSection &section = sections_.at(number);
+    const Line line = lineAt(section, index.row() - firstLine(number));
+    switch (role) {
+    case TypeRole:
+        return static_cast<int>(line.type);
+    case SectionRole:
+        return number;
+    case RowRole:
+        return line.row;
+    case IsFirstRole:
+        return line.row == 0;
+    case IsLastRole:
+        return line.row >= 0 && line.row == section.rows.size() - 1;
+    default:
+        break;
+    }
+    if (line.type == LineType::Row)
+        return rowData(section.rows.at(line.row), role);
+    // Views want every role of every line.
+    return rowData({.title = line.type == LineType::Header ? section.header : section.footer, .selectable = false},
+                   role);
+}
+
+QVariant TableModel::rowData(const TableRow &row, int role)
+{
+    switch (role) {
+    case KindRole:
+        return static_cast<int>(row.kind);
+    case Qt::DisplayRole:
+    case TitleRole:
+        return row.title;
+    case SubtitleRole:
+        return row.subtitle;
+    case DetailRole:
+        return row.detail;
+    case ImageRole:
+        return row.image;
+    case AccessoryRole:
+        return static_cast<int>(row.accessory);
+    case CheckedRole:
+        return row.checked;
+    case OnRole:
+        return row.on;
+    case SelectedRole:
+        return row.selected;
+    case EnabledRole:
+        return row.enabled;
+    case SelectableRole:
+        return row.selectable;
+    case DestructiveRole:
+        return row.destructive;
+    case StruckThroughRole:
+        return row.struckThrough;
+    case CanDeleteRole:
+        return row.canDelete;
+    case CanMoveRole:
+        return row.canMove;
+    case TagRole:
+        return row.tag;
+    case TextRole:
+        return row.text;
+    case PlaceholderRole:
+        return row.placeholder;
+    case UnitRole:
+        return row.unit;
+    case KeyboardRole:
+        return static_cast<int>(row.keyboard);
+    case ColorRole:
+        return row.color.isValid() ? QVariant(row.color) : QVariant();
+    case BadgesRole: {
+        QVariantList badges;
+        for (const TableRow::Badge &badge : row.badges)
+            badges.append(QVariantMap{{QStringLiteral("text"), badge.text}, {QStringLiteral("color"), badge.color}});
+        return badges;
+    }
+    case CellRole:
+        return row.cell;
+    case ValueRole:
+        return row.value;
+    case PickerRole:
+        return QVariant::fromValue(row.picker);
+    default:
+        return {};
+    }
+}
+
+int TableModel::numberOfRowsInSection(int section) const { return static_cast<int>(sections_.at(section).rows.size()); }
+
+bool TableModel::contains(const IndexPath &path) const
+{
+    return path.section >= 0 && path.section < numberOfSections() && path.row >= 0 &&
+           path.row < numberOfRowsInSection(path.section);
+}
+
+const TableRow &TableModel::rowAt(const IndexPath &path) const { return sections_.at(path.section).rows.at(path.row); }
+
+int TableModel::line(const IndexPath &path) const
+{
+    return firstLine(path.section) + (section(path.section).header.isNull() ? 0 : 1) + path.row;
+}
+
+std::optional<IndexPath> TableModel::indexPath(int line) const
+{
+    const QModelIndex at = index(line);
+    const IndexPath path{data(at, SectionRole).toInt(), data(at, RowRole).toInt()};
+    return at.isValid() && path.row >= 0 ? std::optional(path) : std::nullopt;
+}
+
+void TableModel::countLines()
+{
+    firstLines_ = {0};
+    for (const TableSection &section : std::as_const(sections_))
+        firstLines_.append(firstLines_.last() + lineCount(section));
+}
+
+void TableModel::linesChanged(int first, int last, const QList<int> &roles)
+{
+    if (first <= last)
+        Q_EMIT dataChanged(index(first), index(last), roles);
+}
+
+void TableModel::renumbered(int section)
+{
+    linesChanged(firstLine(section), firstLine(section + 1) - 1, {RowRole, IsFirstRole, IsLastRole});
+}
+
+void TableModel::renumberedFrom(int section)
+{
+    if (section < numberOfSections())
+        linesChanged(firstLine(section), rowCount() - 1, {SectionRole});
+}
+
+void TableModel::setSections(const QList<TableSection> &sections)
+{
+    if (sections.size() == sections_.size()) {
+        for (int at = 0; at < sections.size(); ++at)
+            replaceSection(at, sections.at(at));
+        return;
+    }
+    beginResetModel();
+    sections_ = sections;
+    countLines();
+    endResetModel();
+}
+
+void TableModel::insertSection(int at, const TableSection &section)
+{
+    const int count = lineCount(section);
+    const int first = firstLine(at);
+    if (count > 0)
+        beginInsertRows({}, first, first + count - 1);
+    sections_.insert(at, section);
+    countLines();
+    if (count > 0)
+        endInsertRows();
+    renumberedFrom(at + 1);
+}
+
+void TableModel::removeSection(int at)
+{
+    const int count = lineCount(section(at));
+    const int first = firstLine(at);
+    if (count > 0)
+        beginRemoveRows({}, first, first + count - 1);
+    sections_.removeAt(at);
+    countLines();
+    if (count > 0)
+        endRemoveRows();
+    renumberedFrom(at);
+}
+
+void TableModel::replaceSection(int at, const TableSection &section)
+{
+    const TableSection before = sections_.at(at);
+    const int oldCount = lineCount(before);
+    const int newCount = lineCount(section);
+    const int most = std::min(oldCount, newCount);
+    int front = 0;
+    while (front < most && equalLines(before, front, section, front))
+        ++front;
+    int back = 0;
+    while (back < most - front && equalLines(before, oldCount - 1 - back, section, newCount - 1 - back))
+        ++back;
+    const int changed = most - front - back;
+    const int first = firstLine(at) + front;
+
+    // What stays in number changes while nothing else does.
+    const int others = front + changed;
+    if (newCount > oldCount) {
+        sections_[at] = withoutLines(section, others, newCount - oldCount);
+        linesChanged(first, first + changed - 1);
+        beginInsertRows({}, first + changed, first + changed + newCount - oldCount - 1);
+        sections_[at] = section;
+        countLines();
+        endInsertRows();
+    } else if (newCount < oldCount) {
+        beginRemoveRows({}, first + changed, first + changed + oldCount - newCount - 1);
+        sections_[at] = withoutLines(before, others, oldCount - newCount);
+        countLines();
+        endRemoveRows();
+        sections_[at] = section;
+        linesChanged(first, first + changed - 1);
+    } else {
+        sections_[at] = section;
+        linesChanged(first, first + changed - 1);
+    }
+    if (newCount != oldCount || before.rows.size() != section.rows.size())
+        renumbered(at);
+}
+
+void TableModel::setRow(const IndexPath &path, const TableRow &row)
+{
+    TableRow &present = sections_[path.section].rows[path.row];
+    if (present == row)
+        return;
+    present = row;
+    linesChanged(line(path), line(path));
+}
+
+void TableModel::insertRow(const IndexPath &path, const TableRow &row)
+{
+    beginInsertRows({}, line(path), line(path));
+    sections_[path.section].rows.insert(path.row, row);
+    countLines();
+    endInsertRows();
+    renumbered(path.section);
+}
+
+void TableModel::removeRow(const IndexPath &path)
+{
+    beginRemoveRows({}, line(path), line(path));
+    sections_[path.section].rows.removeAt(path.row);
+    countLines();
+    endRemoveRows();
+    renumbered(path.section);
+}
+
+void TableModel::moveRow(const IndexPath &from, const IndexPath &to)
+{
+    if (from == to)
+        return;
+    // The list wants the line before which it goes, counted with the row still in its old place.
+    const int source = line(from);
+    const bool down = from.section == to.section && to.row > from.row;
+    const bool moves = beginMoveRows({}, source, source, {}, line(to) + (down ? 1 : 0));
+    const TableRow row = sections_[from.section].rows.takeAt(from.row);
+    sections_[to.section].rows.insert(to.row, row);
+    countLines();
+    if (moves) // not from the end of a section to the beginning of the next where no header is between
+        endMoveRows();
+    linesChanged(line(to), line(to), {SectionRole});
+    renumbered(from.section);
+    if (from.section != to.section)
+        renumbered(to.section);
+}
+
+} // namespace kesto

@@ -1,0 +1,104 @@
+#pragma once
+
+#include "components/IndexPath.h"
+#include "components/TableRow.h"
+
+#include <QAbstractListModel>
+
+#include <optional>
+
+namespace kesto
+{
+
+/// Rows under one header. A null header or footer is not shown.
+struct TableSection
+{
+    QString header{};
+    QString footer{};
+    QList<TableRow> rows{};
+
+    bool operator==(const TableSection &) const = default;
+};
+
+/// A table as one list: of each section its header, its rows and its footer. Every change is told as small as it is,
+/// so that views can animate it. Paths that do not exist are a programmer's error.
+class TableModel : public QAbstractListModel
+{
+    Q_OBJECT
+public:
+    enum Role {
+        TypeRole = Qt::UserRole, ///< type: a LineType
+        SectionRole,             ///< section
+        RowRole,                 ///< row; −1 for headers and footers
+        IsFirstRole,             ///< isFirst: the first row of its section
+        IsLastRole,              ///< isLast: the last row of its section
+        KindRole,                ///< kind: a TableRow::Kind
+        TitleRole,               ///< title; of headers and footers their text
+        SubtitleRole,
+        DetailRole,
+        ImageRole,
+        AccessoryRole,
+        CheckedRole,
+        OnRole,
+        SelectedRole,
+        EnabledRole,
+        SelectableRole,
+        DestructiveRole,
+        StruckThroughRole,
+        CanDeleteRole,
+        CanMoveRole,
+        TagRole,
+        TextRole,
+        PlaceholderRole,
+        UnitRole,
+        KeyboardRole,
+        ColorRole,  ///< color: undefined when it has no meaning
+        BadgesRole, ///< badges: a list of {text, color}
+        CellRole,
+        ValueRole,
+        PickerRole ///< picker: a Picker or null
+    };
+    enum class LineType { Header, Row, Footer };
+    Q_ENUM(LineType)
+
+    using QAbstractListModel::QAbstractListModel;
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+    [[nodiscard]] int numberOfSections() const { return static_cast<int>(sections_.size()); }
+    [[nodiscard]] int numberOfRowsInSection(int section) const;
+    [[nodiscard]] bool contains(const IndexPath &path) const;
+    [[nodiscard]] const TableRow &rowAt(const IndexPath &path) const;
+    [[nodiscard]] const TableSection &section(int section) const { return sections_.at(section); }
+    /// The line of this list that a row is in, and back; nothing for headers and footers.
+    [[nodiscard]] int line(const IndexPath &path) const;
+    [[nodiscard]] std::optional<IndexPath> indexPath(int line) const;
+
+    /// Another number of sections is a reset, otherwise each is replaced.
+    void setSections(const QList<TableSection> &sections);
+    void insertSection(int at, const TableSection &section);
+    void removeSection(int at);
+    /// Equal lines at the beginning and at the end stay; between them lines change in place as long as there are any,
+    /// and the rest come or go.
+    void replaceSection(int at, const TableSection &section);
+    void setRow(const IndexPath &path, const TableRow &row);
+    void insertRow(const IndexPath &path, const TableRow &row);
+    void removeRow(const IndexPath &path);
+    /// To the place that the row has when it was taken out.
+    void moveRow(const IndexPath &from, const IndexPath &to);
+
+private:
+    [[nodiscard]] int firstLine(int section) const { return firstLines_.at(section); }
+    void countLines();
+    void linesChanged(int first, int last, const QList<int> &roles = {});
+    void renumbered(int section);
+    void renumberedFrom(int section);
+    [[nodiscard]] static QVariant rowData(const TableRow &row, int role);
+
+    QList<TableSection> sections_;
+    QList<int> firstLines_{0}; // of each section, and of one behind the last
+};
+
+} // namespace kesto
