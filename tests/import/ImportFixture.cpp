@@ -1,0 +1,143 @@
+#include "import/ImportFixture.h"
+
+#include "import/SQLiteParser.h"
+#include "model/Dish.h"
+#include "model/DishesCategory.h"
+#include "model/Ingredient.h"
+#include "model/PurhaseIngredient.h"
+#include "platform/PropertyList.h"
+#include "platform/objectgraph/PersistentStoreCoordinator.h"
+#include "platform/objectgraph/SqlStore.h"
+#include "store/CoreDataManager.h"
+#include "support/LogCapture.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace kesto::test
+{
+
+namespace
+{
+
+QVariantList listOf(const QString &lines)
+{
+    QVariantList list;
+    for (const QString &line : lines.split(QStringLiteral(", "), Qt::SkipEmptyParts))
+        list.append(line);
+    return list;
+}
+
+QString orNothing(const QString &text) { return text.isNull() ? QStringLiteral("(absent)") : text; }
+
+} // namespace
+
+ImportFixture::ImportFixture()
+{
+    platform_ = std::make_unique<TestPlatform>(TestPlatform::Options{.resourcesFolder = resources_.path()});
+}
+
+ImportFixture::~ImportFixture() = default;
+
+ManagedObjectContext &ImportFixture::context() { return *CoreDataManager::sharedManager().managedObjectContext(); }
+
+void ImportFixture::restart() { platform_->restart(); }
+
+void ImportFixture::writeResource(const QString &name, const QByteArray &bytes)
+{
+    QFile file(resources_.filePath(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+}
+
+void ImportFixture::import(const QVariantList &recipes)
+{
+    ASSERT_TRUE(PropertyList::write(recipes, resources_.filePath(QStringLiteral("recipes.plist"))));
+    (void)parse();
+}
+
+QStringList ImportFixture::parse()
+{
+    (void)context();
+    LogCapture log;
+    SQLiteParser::parse();
+    return log.take();
+}
+
+QVariantMap ImportFixture::record(const QString &dishID, const QString &linesRU, const QString &linesENG)
+{
+    return {{QStringLiteral("dishID"), dishID},
+            {QStringLiteral("nameRU"), QStringLiteral("Блюдо ") + dishID},
+            {QStringLiteral("nameENG"), QStringLiteral("Dish ") + dishID},
+            {QStringLiteral("dietPeriod"), QStringLiteral("1, 2, 3")},
+            {QStringLiteral("recipeRU"), QStringLiteral("Сварить. Подать.")},
+            {QStringLiteral("recipeENG"), QStringLiteral("Boil. Serve.")},
+            {QStringLiteral("catRU"), QStringLiteral("Салаты")},
+            {QStringLiteral("catENG"), QStringLiteral("Salads")},
+            {QStringLiteral("ingredientsRU"), listOf(linesRU)},
+            {QStringLiteral("ingredientsENG"), listOf(linesENG)}};
+}
+
+Dish &ImportFixture::dish(const QString &dishID)
+{
+    FetchRequest request;
+    request.predicate = attribute("dishID") == dishID;
+    const std::vector<Dish *> found = context().fetch<Dish>(request);
+    if (found.size() != 1)
+        throw std::runtime_error("not exactly one dish " + dishID.toStdString());
+    return *found.front();
+}
+
+QString ImportFixture::outline(std::vector<Ingredient *> lines)
+{
+    std::stable_sort(lines.begin(), lines.end(), [](const Ingredient *left, const Ingredient *right) {
+        return left->displayOrder() < right->displayOrder();
+    });
+    QStringList texts;
+    for (const Ingredient *line : lines) {
+        const std::optional<int> order = line->displayOrder();
+        texts.append((order ? QString::number(*order) : QStringLiteral("-")) + u' ' + line->name());
+    }
+    return texts.join(QStringLiteral(", "));
+}
+
+QStringList ImportFixture::content()
+{
+    QStringList texts;
+    for (const Dish *dish : context().fetch<Dish>()) {
+        const DishesCategory *category = dish->dishCategory();
+        const QStringList parts{orNothing(dish->dishID()),
+                                orNothing(dish->nameRU()),
+                                orNothing(dish->nameENG()),
+                                orNothing(dish->dietPeriod()),
+                                orNothing(dish->recipeRU()),
+                                orNothing(dish->recipeENG()),
+                                category != nullptr ? category->nameRU() : QStringLiteral("(no category)"),
+                                dish->recipeNew().value_or(false) ? QStringLiteral("new") : QStringLiteral("seen"),
+                                dish->userCreated().value_or(false) ? QStringLiteral("own") : QStringLiteral("shipped"),
+                                outline(dish->ingredientsRU()),
+                                outline(dish->ingredientsENG())};
+        texts.append(parts.join(u'|'));
+    }
+    for (const DishesCategory *category : context().fetch<DishesCategory>())
+        texts.append(category->nameRU() + u'|' + category->nameENG() + u'|' +
+                     QString::number(category->displayOrder().value_or(0)));
+    for (const Ingredient *line : context().fetch<Ingredient>())
+        texts.append(QStringLiteral("line ") + line->name());
+    for (const PurhaseIngredient *purchase : context().fetch<PurhaseIngredient>()) {
+        const Ingredient *line = purchase->ingredient();
+        texts.append(QStringLiteral("purchase ") + (line != nullptr ? line->name() : QStringLiteral("(nothing)")));
+    }
+    return texts;
+}
+
+void ImportFixture::makeReadOnly(bool readOnly)
+{
+    StoreError error;
+    ASSERT_TRUE(context().persistentStoreCoordinator().access()->execute(
+        readOnly ? "PRAGMA query_only = 1" : "PRAGMA query_only = 0", &error))
+        << error.description.toStdString();
+}
+
+} // namespace kesto::test
