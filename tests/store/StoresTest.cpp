@@ -181,8 +181,9 @@ TEST(Stores, AFileThatCanNotBeOpenedLeavesAContextWithoutAStore)
     garbage.close();
     LogCapture log;
     program.settle();
-    EXPECT_THAT(log.lines(),
-                Contains(QStringLiteral("error while additing presitance store - file is not a database")));
+    const QString reason = QStringLiteral("error while additing presitance store - ") + program.path("Diet.sqlite") +
+                           QStringLiteral(": file is not a database");
+    EXPECT_THAT(log.lines(), Contains(reason));
     EXPECT_THAT(log.lines(),
                 Not(Contains(testing::ResultOf(
                     [](const QString &text) { return text.startsWith(QStringLiteral("added normal")); }, true))));

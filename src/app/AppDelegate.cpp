@@ -1,0 +1,212 @@
+#include "app/AppDelegate.h"
+
+#include "app/PlainViewController.h"
+#include "app/RootViewConrollerViewController.h"
+#include "app/Styllesheet.h"
+#include "components/AlertCenter.h"
+#include "components/NavigationController.h"
+#include "components/RatingPrompt.h"
+#include "components/SideMenuContainer.h"
+#include "components/Window.h"
+#include "import/UpdatingDatabaseViewController.h"
+#include "journal/WaterVals.h"
+#include "platform/Log.h"
+#include "platform/Platform.h"
+#include "platform/StringTables.h"
+#include "platform/UserDefaults.h"
+#include "store/Keys.h"
+
+#include <utility>
+
+namespace kesto
+{
+
+namespace
+{
+
+const QString storeIdentifier = QStringLiteral("kesto");
+
+bool isOfTimer(const LocalNotification &notification)
+{
+    return notification.userInfo.contains(QStringLiteral("kTimerID"));
+}
+
+} // namespace
+
+AppDelegate::AppDelegate(Platform &platform)
+    : platform_(platform)
+    , window_(Window::sharedWindow())
+{
+    connect(&platform.notifications(), &LocalNotifications::didReceive, this,
+            [this](const LocalNotification &notification) { application(notification); });
+}
+
+AppDelegate::~AppDelegate()
+{
+    BKPasscodeLockScreenManager::sharedManager().setDelegate(nullptr);
+    if (auto *split = qobject_cast<SplitViewController *>(window_.rootViewController()); split != nullptr)
+        split->setDelegate(nullptr);
+    window_.setRootViewController(nullptr);
+}
+
+bool AppDelegate::application(const LaunchOptions &didFinishLaunchingWithOptions)
+{
+    becomeLockScreenDelegate();
+    registerDefaultSettings();
+    applyStyle();
+    countDownBadge(didFinishLaunchingWithOptions);
+    arrangeScreens(makeRootMenu());
+    showWindow();
+    checkVersion();
+    startRatingPrompt();
+    showLockScreenAtLaunch();
+    return true;
+}
+
+void AppDelegate::becomeLockScreenDelegate() { BKPasscodeLockScreenManager::sharedManager().setDelegate(this); }
+
+void AppDelegate::registerDefaultSettings()
+{
+    const QString centimetres = QStringLiteral("см");
+    const bool russian = platform_.strings().localized(centimetres) == centimetres;
+    platform_.userDefaults().registerDefaults({{Keys::kSystemKey, 0},
+                                               {Keys::kLangluageKey, russian ? 0 : 1},
+                                               {Keys::kUseICloudKey, true},
+                                               {Keys::kWaterWalskey, defultsWaterVals()}});
+}
+
+void AppDelegate::applyStyle() { platform_.shared<Styllesheet>().customizeUIthroughtApperanceProtocol(); }
+
+void AppDelegate::countDownBadge(const LaunchOptions &options)
+{
+    const std::optional<LocalNotification> &notification = options.localNotification;
+    if (notification && !isOfTimer(*notification))
+        platform_.notifications().setApplicationIconBadgeNumber(notification->badgeNumber - 1);
+}
+
+std::unique_ptr<NavigationController> AppDelegate::makeRootMenu()
+{
+    auto menu = std::make_unique<RootViewConrollerViewController>();
+    menu_ = menu.get();
+    return std::make_unique<NavigationController>(std::move(menu));
+}
+
+void AppDelegate::arrangeScreens(std::unique_ptr<NavigationController> menu)
+{
+    if (window_.isTablet()) {
+        auto split = std::make_unique<SplitViewController>(
+            std::move(menu), std::make_unique<NavigationController>(std::make_unique<PlainViewController>()));
+        split->setDelegate(this);
+        arrangement_ = std::move(split);
+        return;
+    }
+    const bool started = platform_.userDefaults().valueForKey(Keys::kStartDietDateKey).isValid();
+    auto center = ScreenFactory::make(started ? ScreenName::Calendar : ScreenName::Calculator, *menu_);
+    center->setTitle(
+        localized(started ? QStringLiteral("Календарь диеты") : QStringLiteral("Калькулятор веса по Кесто")));
+    center->setShowsMenuIcon(true);
+    arrangement_ =
+        std::make_unique<SideMenuContainer>(std::make_unique<NavigationController>(std::move(center)), std::move(menu));
+}
+
+void AppDelegate::showWindow()
+{
+    const Styllesheet &style = platform_.shared<Styllesheet>();
+    window_.setBackgroundImage(style.backgroundImage());
+    window_.setTintColor(style.tintColor());
+    window_.setRootViewController(std::move(arrangement_));
+}
+
+void AppDelegate::checkVersion()
+{
+    const QString version = platform_.version();
+    const QString imported = platform_.userDefaults().stringForKey(Keys::kAppVersionKey);
+    if (!imported.isNull() && imported == version)
+        return;
+    auto waitScreen = std::make_unique<UpdatingDatabaseViewController>();
+    waitScreen->setAppVersion(version);
+    waitScreen->setMode(imported.isNull() ? 0 : 1);
+    window_.rootViewController()->presentViewController(std::move(waitScreen), false);
+}
+
+void AppDelegate::startRatingPrompt()
+{
+    RatingPrompt &prompt = RatingPrompt::sharedPrompt();
+    prompt.configure({.appID = storeIdentifier, .daysUntilPrompt = 1, .usesUntilPrompt = 10, .timeBeforeReminding = 2});
+    prompt.appLaunched(true);
+}
+
+void AppDelegate::showLockScreenAtLaunch()
+{
+    if (platform_.userDefaults().valueForKey(Keys::kPasscodeKey).isValid())
+        BKPasscodeLockScreenManager::sharedManager().showLockScreen(false);
+}
+
+void AppDelegate::application(const LocalNotification &didReceiveLocalNotification)
+{
+    log(QStringLiteral("recive local not"));
+    Alert alert;
+    alert.message = didReceiveLocalNotification.alertBody;
+    alert.buttons = {{localized(QStringLiteral("OK")), Alert::Role::Cancel}};
+    AlertCenter::sharedCenter().show(std::move(alert));
+    if (isOfTimer(didReceiveLocalNotification)) {
+        log(QStringLiteral("timer"));
+        platform_.userDefaults().removeObjectForKey(Keys::kTimerKey);
+    } else {
+        log(QStringLiteral("reminder"));
+    }
+}
+
+void AppDelegate::applicationDidEnterBackground()
+{
+    BKPasscodeLockScreenManager::sharedManager().showLockScreen(false);
+}
+
+void AppDelegate::applicationWillEnterForeground()
+{
+    platform_.userDefaults().synchronize();
+    RatingPrompt::sharedPrompt().appEnteredForeground(true);
+}
+
+void AppDelegate::applicationWillTerminate() { platform_.userDefaults().synchronize(); }
+
+bool AppDelegate::lockScreenManagerShouldShowLockScreen(BKPasscodeLockScreenManager &)
+{
+    return platform_.userDefaults().valueForKey(Keys::kPasscodeKey).isValid();
+}
+
+std::unique_ptr<ViewController> AppDelegate::lockScreenManagerPasscodeViewController(BKPasscodeLockScreenManager &)
+{
+    return std::make_unique<NavigationController>(
+        std::make_unique<BKPasscodeViewController>(BKPasscodeViewController::Type::Check, this));
+}
+
+void AppDelegate::passcodeViewController(BKPasscodeViewController &, const QString &authenticatePasscode,
+                                         const std::function<void(bool)> &resultHandler)
+{
+    const QString stored = platform_.userDefaults().stringForKey(Keys::kPasscodeKey);
+    resultHandler(!stored.isNull() && stored == authenticatePasscode);
+}
+
+void AppDelegate::passcodeViewController(BKPasscodeViewController &passcodeViewController, const QString &)
+{
+    passcodeViewController.dismissViewController(true);
+}
+
+void AppDelegate::passcodeViewControllerDidFailAttempt(BKPasscodeViewController &) { log(QStringLiteral("FAILED")); }
+
+void AppDelegate::splitViewControllerWillHideMaster(SplitViewController &splitViewController,
+                                                    BarButtonItem &displayModeButtonItem)
+{
+    displayModeButtonItem.setTitle(localized(QStringLiteral("Диета Кесто")));
+    if (auto *detail = qobject_cast<NavigationController *>(splitViewController.detail()); detail != nullptr)
+        detail->rootViewController()->setMenuBarButtonItem(&displayModeButtonItem);
+}
+
+void AppDelegate::splitViewControllerWillShowMaster(SplitViewController &splitViewController, BarButtonItem &)
+{
+    if (auto *detail = qobject_cast<NavigationController *>(splitViewController.detail()); detail != nullptr)
+        detail->rootViewController()->setMenuBarButtonItem(nullptr);
+}
+
+} // namespace kesto

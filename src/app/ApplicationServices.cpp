@@ -1,0 +1,103 @@
+#include "app/ApplicationServices.h"
+
+#include "platform/DesktopNotificationPresenter.h"
+#include "platform/LocalNotificationCenter.h"
+#include "platform/Platform.h"
+#include "platform/StringTables.h"
+#include "platform/UserDefaults.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QLocale>
+#include <QStandardPaths>
+
+namespace kesto
+{
+
+namespace
+{
+
+const QString applicationName = QStringLiteral("kesto");
+
+// A folder that is there already keeps its permissions: somebody may have chosen them.
+bool makePrivateFolder(const QString &path)
+{
+    const QFileInfo folder(path);
+    if (folder.exists())
+        return folder.isDir();
+    return QDir().mkpath(folder.absolutePath()) &&
+           folder.absoluteDir().mkdir(folder.fileName(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+QString preferredLanguage(const QString &asked, const UserDefaults &defaults)
+{
+    if (!asked.isEmpty())
+        return asked;
+    const QStringList chosen = defaults.stringArrayForKey(QStringLiteral("AppleLanguages"));
+    return chosen.isEmpty() ? QLocale::system().name() : chosen.constFirst();
+}
+
+} // namespace
+
+ApplicationServices::ApplicationServices(const QString &dataFolder)
+    : lock_(dataFolder + QStringLiteral("/lock"))
+{
+    lock_.setStaleLockTime(0); // only the end of its process frees a lock
+}
+
+// The platform goes first, then what it stands on.
+ApplicationServices::~ApplicationServices() = default;
+
+std::unique_ptr<ApplicationServices> ApplicationServices::open(const Options &options, QString *error)
+{
+    const QString folder = QDir::cleanPath(QFileInfo(options.dataFolder).absoluteFilePath());
+    const QString documents = folder + QStringLiteral("/Documents");
+    if (!makePrivateFolder(folder) || !makePrivateFolder(documents)) {
+        *error = QStringLiteral("The data folder %1 can't be made.").arg(folder);
+        return nullptr;
+    }
+    if (!QDir(options.resourcesFolder).exists()) {
+        *error = QStringLiteral("The program's resources are missing from %1.").arg(options.resourcesFolder);
+        return nullptr;
+    }
+
+    std::unique_ptr<ApplicationServices> services(new ApplicationServices(folder));
+    if (!services->lock_.tryLock()) {
+        if (services->lock_.error() == QLockFile::LockFailedError)
+            *error = QStringLiteral("The program is running already with the data folder %1.").arg(folder);
+        else
+            *error = QStringLiteral("The data folder %1 can't be written.").arg(folder);
+        return nullptr;
+    }
+
+    services->userDefaults_ = std::make_unique<UserDefaults>(folder + QStringLiteral("/UserDefaults.plist"));
+    services->strings_ = std::make_unique<StringTables>(options.resourcesFolder,
+                                                        preferredLanguage(options.language, *services->userDefaults_));
+    services->presenter_ = std::make_unique<DesktopNotificationPresenter>(applicationName);
+    services->notifications_ = std::make_unique<LocalNotificationCenter>(
+        folder, services->strings_->localized(QStringLiteral("Диета Кесто")), services->clock_, *services->presenter_);
+    services->platform_ = std::make_unique<Platform>(Platform::Services{.documentsFolder = documents,
+                                                                        .resourcesFolder = options.resourcesFolder,
+                                                                        .version = options.version,
+                                                                        .userDefaults = services->userDefaults_.get(),
+                                                                        .strings = services->strings_.get(),
+                                                                        .notifications = services->notifications_.get(),
+                                                                        .clock = &services->clock_,
+                                                                        .random = &services->random_,
+                                                                        .calendar = Calendar(),
+                                                                        .urlOpener = &QDesktopServices::openUrl});
+    return services;
+}
+
+QString ApplicationServices::defaultDataFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+}
+
+QString ApplicationServices::resourcesFolderBeside(const QString &applicationFolder)
+{
+    return QDir::cleanPath(applicationFolder + QStringLiteral("/../share/kesto"));
+}
+
+} // namespace kesto

@@ -1,0 +1,112 @@
+#include "app/Program.h"
+
+#include "components/Window.h"
+#include "platform/LocalNotificationCenter.h"
+#include "platform/Platform.h"
+
+#include <QGuiApplication>
+#include <QIcon>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace kesto
+{
+
+namespace
+{
+
+constexpr QSize phoneSize(390, 844);
+constexpr QSize tabletSize(1180, 820);
+constexpr QSize smallestSize(320, 480);
+constexpr int shorterSideOfTablet = 600;
+
+int shorterSide(const QSize &size) { return std::min(size.width(), size.height()); }
+
+QString resourcesFolder(const QString &asked)
+{
+    return asked.isEmpty() ? ApplicationServices::resourcesFolderBeside(QCoreApplication::applicationDirPath()) : asked;
+}
+
+} // namespace
+
+Program::Program()
+    : lifecycle_(ApplicationLifecycle::systemShowsOneProgramAtATime())
+{
+}
+
+// The drawing stops first; the services stand until the last screen has said what it had to.
+Program::~Program()
+{
+    userInterface_.reset();
+    delegate_.reset();
+}
+
+std::unique_ptr<Program> Program::start(const Options &options, QString *error)
+{
+    std::unique_ptr<Program> program(new Program);
+    program->services_ = ApplicationServices::open({.dataFolder = options.dataFolder,
+                                                    .resourcesFolder = resourcesFolder(options.resourcesFolder),
+                                                    .version = QCoreApplication::applicationVersion(),
+                                                    .language = options.language},
+                                                   error);
+    if (program->services_ == nullptr)
+        return nullptr;
+    program->arrangeWindow(options);
+    program->delegate_ = std::make_unique<AppDelegate>(program->platform());
+    (void)program->delegate_->application(AppDelegate::LaunchOptions());
+    program->userInterface_ = std::make_unique<UserInterface>(program->platform());
+    if (!program->userInterface_->load()) {
+        *error = QStringLiteral("The interface can't be loaded.");
+        return nullptr;
+    }
+    program->showInterface();
+    program->followSystem();
+    return program;
+}
+
+Window &Program::window() { return platform().shared<Window>(); }
+
+// The arrangement stays what it was at the start, however the window is resized later.
+void Program::arrangeWindow(const Options &options)
+{
+    const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+    const bool largeScreen = shorterSide(screen) >= shorterSideOfTablet;
+    const Device device = options.device.value_or(largeScreen ? Device::Tablet : Device::Phone);
+    const QSize wanted = device == Device::Tablet ? tabletSize : phoneSize;
+    initialSize_ = options.size.isEmpty() ? wanted.boundedTo(screen) : options.size;
+    if (!largeScreen && options.size.isEmpty())
+        initialSize_ = screen;
+    window().setDevice(device == Device::Tablet ? Window::Device::Tablet : Window::Device::Phone);
+    window().setSize(initialSize_);
+}
+
+void Program::showInterface()
+{
+    QGuiApplication::setWindowIcon(QIcon(platform().resourcesFolder() + QStringLiteral("/images/app_icon.svg")));
+    QQuickWindow &shown = view();
+    shown.setMinimumSize(smallestSize);
+    shown.resize(initialSize_);
+    if (initialSize_ == QGuiApplication::primaryScreen()->availableSize())
+        shown.showMaximized();
+}
+
+void Program::followSystem()
+{
+    connect(&lifecycle_, &ApplicationLifecycle::didEnterBackground, delegate_.get(),
+            &AppDelegate::applicationDidEnterBackground);
+    connect(&lifecycle_, &ApplicationLifecycle::willEnterForeground, delegate_.get(),
+            &AppDelegate::applicationWillEnterForeground);
+    connect(qGuiApp, &QCoreApplication::aboutToQuit, delegate_.get(), &AppDelegate::applicationWillTerminate);
+    const auto tellNotifications = [this](bool active) { services_->notifications().setApplicationActive(active); };
+    connect(&lifecycle_, &ApplicationLifecycle::activeChanged, this, tellNotifications);
+    tellNotifications(lifecycle_.isActive());
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, &lifecycle_,
+            &ApplicationLifecycle::setApplicationState);
+    connect(&view(), &QWindow::visibilityChanged, &lifecycle_, [this](QWindow::Visibility visibility) {
+        lifecycle_.setWindowMinimized(visibility == QWindow::Minimized);
+    });
+    lifecycle_.watchScreenLock();
+}
+
+} // namespace kesto

@@ -1,0 +1,146 @@
+#include "app/Tour.h"
+
+#include "app/Program.h"
+#include "app/TourGuide.h"
+#include "app/TourStops.h"
+#include "components/Window.h"
+#include "import/UpdatingDatabaseViewController.h"
+#include "ui/Appearance.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTextStream>
+
+#include <array>
+#include <memory>
+#include <vector>
+
+namespace kesto
+{
+
+namespace
+{
+
+struct Part
+{
+    const char16_t *name;
+    Device device;
+    QSize size;
+};
+
+constexpr std::array parts{Part{u"phone", Device::Phone, QSize(390, 844)},
+                           Part{u"tablet-portrait", Device::Tablet, QSize(820, 1180)},
+                           Part{u"tablet-landscape", Device::Tablet, QSize(1180, 820)}};
+
+QStringList languages() { return {QStringLiteral("ru"), QStringLiteral("en")}; }
+
+QString nameOf(const Part &part, const QString &language)
+{
+    return QString::fromUtf16(part.name) + QLatin1Char('-') + language;
+}
+
+int fail(const QString &reason)
+{
+    QTextStream(stderr) << "kesto: " << reason << Qt::endl;
+    return 1;
+}
+
+/// All at once: they wait for the screens to settle more than they work.
+int runParts(const QString &folder, const QStringList &names, QStringList &files)
+{
+    std::vector<std::unique_ptr<QProcess>> processes;
+    for (const QString &name : names) {
+        processes.push_back(std::make_unique<QProcess>());
+        processes.back()->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        processes.back()->start(QCoreApplication::applicationFilePath(),
+                                {QStringLiteral("--tour"), folder, QStringLiteral("--tour-part"), name});
+    }
+    int result = 0;
+    for (size_t i = 0; i < processes.size(); ++i) {
+        QProcess &process = *processes[i];
+        const bool ended = process.state() == QProcess::NotRunning || process.waitForFinished(-1);
+        if (!ended || process.error() == QProcess::FailedToStart || process.exitStatus() != QProcess::NormalExit ||
+            process.exitCode() != 0)
+            result = fail(QStringLiteral("The part %1 of the tour failed.").arg(names[static_cast<int>(i)]));
+        files += QString::fromLocal8Bit(process.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    }
+    return result;
+}
+
+/// The first picture is the preparation of the recipes, held for as long as it takes.
+bool waitForImport(Program &program, TourGuide &guide)
+{
+    const QList<ViewController *> presented = program.window().presentedViewControllers();
+    auto *preparation = qobject_cast<UpdatingDatabaseViewController *>(presented.value(0));
+    if (preparation == nullptr)
+        return false;
+    preparation->timer().stop();
+    guide.takePicture(QStringLiteral("preparing"));
+    preparation->timer().start();
+    return guide.waitUntilNothingIsPresented();
+}
+
+} // namespace
+
+int runTour(const CommandLine &line)
+{
+    const QString folder = QDir(line.tourFolder).absolutePath();
+    if (!QDir().mkpath(folder))
+        return fail(QStringLiteral("The folder %1 can't be made.").arg(folder));
+    QStringList names;
+    for (const Part &part : parts) {
+        for (const QString &language : languages()) {
+            if ((!line.device || *line.device == part.device) && (line.language.isEmpty() || line.language == language))
+                names.append(nameOf(part, language));
+        }
+    }
+    QStringList files;
+    const int result = runParts(folder, names, files);
+    QTextStream out(stdout);
+    for (const QString &file : files)
+        out << file << Qt::endl;
+    return result;
+}
+
+int runTourPart(const CommandLine &line)
+{
+    for (const Part &part : parts) {
+        for (const QString &language : languages()) {
+            const QString name = nameOf(part, language);
+            if (name != line.tourPart)
+                continue;
+            const QTemporaryDir data;
+            QString error = QStringLiteral("There is no room for temporary data.");
+            const std::unique_ptr<Program> program =
+                data.isValid() ? Program::start({.dataFolder = data.filePath(QStringLiteral("data")),
+                                                 .resourcesFolder = {},
+                                                 .language = language,
+                                                 .device = part.device,
+                                                 .size = part.size},
+                                                &error)
+                               : nullptr;
+            if (program == nullptr)
+                return fail(error);
+            program->userInterface().appearance().setMotion(false);
+            TourGuide guide(*program, line.tourFolder, name);
+            if (!waitForImport(*program, guide))
+                return fail(QStringLiteral("The recipes were not prepared."));
+            for (const TourStop &stop : tourStops()) {
+                stop.show(guide);
+                guide.takePicture(stop.name);
+                guide.goHome();
+            }
+            QTextStream out(stdout);
+            for (const QString &file : guide.pictures())
+                out << file << Qt::endl;
+            for (const QString &file : guide.failures())
+                (void)fail(QStringLiteral("The picture %1 can't be saved.").arg(file));
+            return guide.failures().isEmpty() ? 0 : 1;
+        }
+    }
+    return fail(QStringLiteral("The tour has no part \"%1\".").arg(line.tourPart));
+}
+
+} // namespace kesto

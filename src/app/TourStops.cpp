@@ -1,0 +1,59 @@
+#include "app/TourStops.h"
+
+#include "app/RootViewConrollerViewController.h"
+#include "app/TourGuide.h"
+#include "app/TourStopsPlan.h"
+#include "components/BKPasscodeLockScreenManager.h"
+#include "platform/Platform.h"
+#include "platform/UserDefaults.h"
+#include "store/Keys.h"
+
+namespace kesto
+{
+
+namespace
+{
+
+std::function<void(TourGuide &)> row(int number)
+{
+    return [number](TourGuide &guide) { guide.openRow(number); };
+}
+
+void lockScreen(TourGuide &guide)
+{
+    guide.platform().userDefaults().setValue(QStringLiteral("0000"), Keys::kPasscodeKey);
+    BKPasscodeLockScreenManager::sharedManager().showLockScreen(false);
+}
+
+} // namespace
+
+QList<TourStop> tourStops()
+{
+    QList<TourStop> stops{
+        {QStringLiteral("start"), [](TourGuide &) {}},
+        {QStringLiteral("menu"), [](TourGuide &guide) { guide.openMenu(); }},
+        {QStringLiteral("about-diet"), row(0)},
+        {QStringLiteral("phases"), row(1)},
+        {QStringLiteral("products"), row(2)},
+        {QStringLiteral("recipes"), row(3)},
+    };
+    stops += calculatorTourStops();
+    stops += QList<TourStop>{
+        {QStringLiteral("graph"), row(5)},
+        {QStringLiteral("calendar-not-yet"), row(6)},
+    };
+    stops += calendarTourStops();
+    stops += QList<TourStop>{
+        {QStringLiteral("journal"), row(7)},
+        {QStringLiteral("shopping-list"), row(8)},
+        {QStringLiteral("no-favourites"), row(9)},
+        {QStringLiteral("send-recipe"), row(10)},
+        {QStringLiteral("tips"), row(11)},
+        {QStringLiteral("info"), [](TourGuide &guide) { guide.menu().showInfo(); }},
+        {QStringLiteral("settings"), [](TourGuide &guide) { guide.menu().showSettings(); }},
+        {QStringLiteral("lock"), lockScreen}, // the last: only the passcode leads away from it
+    };
+    return stops;
+}
+
+} // namespace kesto

@@ -1,0 +1,161 @@
+#include "app/TourStopsPlan.h"
+
+#include "app/RootViewConrollerViewController.h"
+#include "app/TourGuide.h"
+#include "components/Window.h"
+#include "model/DietDay.h"
+#include "model/Dish.h"
+#include "model/DishInDietDay.h"
+#include "model/JornalDay.h"
+#include "plan/CalculatorViewController.h"
+#include "plan/CalendarViewController.h"
+#include "platform/Clock.h"
+#include "platform/Platform.h"
+#include "platform/UserDefaults.h"
+#include "store/CoreDataManager.h"
+#include "store/Keys.h"
+#include "util/MNAdditions.h"
+
+namespace kesto
+{
+
+namespace
+{
+
+constexpr int daysSinceStart = 3;
+constexpr int attackDays = 5;
+
+/// The screen of a kind that was opened last.
+template <class Screen>
+Screen *screenOf(TourGuide &guide)
+{
+    const QList<Screen *> found = guide.window().rootViewController()->findChildren<Screen *>();
+    return found.isEmpty() ? nullptr : found.last();
+}
+
+CalculatorViewController *openCalculator(TourGuide &guide)
+{
+    UserDefaults &defaults = guide.platform().userDefaults();
+    defaults.setFloat(34, QStringLiteral("Возраст"));
+    defaults.setFloat(78.4F, QStringLiteral("Вес"));
+    defaults.setFloat(172, QStringLiteral("Рост"));
+    guide.openRow(RootViewConrollerViewController::calculatorRow);
+    guide.settle();
+    return screenOf<CalculatorViewController>(guide);
+}
+
+void calculatorWithWheel(TourGuide &guide)
+{
+    if (CalculatorViewController *screen = openCalculator(guide))
+        screen->displayPickerForIndexPath(
+            {CalculatorViewController::InputsSection, static_cast<int>(CalculatorInput::Weight)});
+}
+
+void startDialog(TourGuide &guide)
+{
+    if (CalculatorViewController *screen = openCalculator(guide))
+        screen->startDietIntro();
+}
+
+/// As if the calculator had started the diet three days ago, and as if it had been kept since.
+void startDiet(TourGuide &guide)
+{
+    UserDefaults &defaults = guide.platform().userDefaults();
+    const Calendar &calendar = guide.platform().calendar();
+    const QDate today = calendar.dayOf(guide.platform().clock().now());
+    const QDate first = today.addDays(-daysSinceStart);
+    const QDateTime start = calendar.startOfDay(first);
+    defaults.setValue(start, Keys::kStartDietDateKey);
+    defaults.setInteger(attackDays, Keys::kPeriod1Key);
+    defaults.setInteger(60, Keys::kPeriod2Key);
+    defaults.setInteger(80, Keys::kPeriod3Key);
+    defaults.setFloat(64, Keys::kIdealWidth);
+    CoreDataManager &manager = CoreDataManager::sharedManager();
+    manager.setStartDietDay(start);
+
+    ManagedObjectContext &context = *manager.managedObjectContext();
+    for (int i = 0; i < attackDays + 60; ++i) {
+        DietDay &day = DietDay::dietDatWithDate(calendar.startOfDay(first.addDays(i)), context);
+        const bool pureProtein = i < attackDays || (i - attackDays) / attackDays % 2 == 0;
+        day.setChB(pureProtein ? std::optional(true) : std::nullopt);
+        day.setBO(pureProtein ? std::nullopt : std::optional(true));
+        if (i > daysSinceStart)
+            continue;
+        day.setWeight(78.4F - 0.4F * static_cast<float>(i));
+        day.setChest(98);
+        day.setWaist(84.5F);
+        day.setHip(104);
+        if (day.jornalDay() == nullptr)
+            context.insert<JornalDay>().setDay(&day);
+    }
+    DietDay &day = DietDay::dietDatWithDate(calendar.startOfDay(today), context);
+    FetchRequest dishes;
+    dishes.predicate = attribute("dietPeriod").contains(QStringLiteral("0"));
+    dishes.fetchLimit = 3;
+    if (day.dishes().empty()) {
+        int order = 0;
+        for (Dish *dish : context.fetch<Dish>(dishes)) {
+            auto &planned = context.insert<DishInDietDay>();
+            planned.setDisplayOrder(order++);
+            planned.setDish(dish);
+            day.addDishes(planned);
+        }
+    }
+    (void)context.save();
+}
+
+CalendarViewController *openCalendar(TourGuide &guide)
+{
+    startDiet(guide);
+    guide.openRow(RootViewConrollerViewController::calendarRow);
+    guide.settle();
+    return screenOf<CalendarViewController>(guide);
+}
+
+/// A day with measures and without dishes.
+void calendarOfSecondDay(TourGuide &guide)
+{
+    if (CalendarViewController *screen = openCalendar(guide)) {
+        const QDateTime start = *CoreDataManager::sharedManager().startDietDay();
+        const QDateTime second = guide.platform().calendar().dateByAdding(1, Calendar::Unit::Day, start);
+        screen->touchCell(screen->month()->indexOf(second));
+    }
+}
+
+/// The month and its fifteenth, a number of months after today's.
+std::function<void(TourGuide &)> calendarAfterMonths(int months)
+{
+    return [months](TourGuide &guide) {
+        CalendarViewController *screen = openCalendar(guide);
+        if (screen == nullptr)
+            return;
+        for (int i = 0; i < months; ++i)
+            screen->nextMonth();
+        const Calendar &calendar = guide.platform().calendar();
+        const QDate month = screen->month()->month();
+        screen->touchCell(screen->month()->indexOf(calendar.startOfDay(QDate(month.year(), month.month(), 15))));
+    };
+}
+
+} // namespace
+
+QList<TourStop> calculatorTourStops()
+{
+    return {
+        {QStringLiteral("calculator"), [](TourGuide &guide) { (void)openCalculator(guide); }},
+        {QStringLiteral("calculator-wheels"), calculatorWithWheel},
+        {QStringLiteral("start-dialog"), startDialog},
+    };
+}
+
+QList<TourStop> calendarTourStops()
+{
+    return {
+        {QStringLiteral("calendar-attack"), [](TourGuide &guide) { (void)openCalendar(guide); }},
+        {QStringLiteral("calendar-measures"), calendarOfSecondDay},
+        {QStringLiteral("calendar-cruise"), calendarAfterMonths(1)},
+        {QStringLiteral("calendar-stabilization"), calendarAfterMonths(6)},
+    };
+}
+
+} // namespace kesto

@@ -1,0 +1,159 @@
+#include "plan/CalFooterView.h"
+
+#include "model/DietDay.h"
+#include "platform/StringFormat.h"
+#include "platform/StringTables.h"
+#include "store/CoreDataManager.h"
+
+namespace kesto
+{
+
+namespace
+{
+
+constexpr std::array fieldTitles{u"Вес", u"Грудь", u"Талия", u"Бедра"};
+constexpr std::array kindTitles{u"Чистый Белок", u"Белок и овощи", u"Пир"};
+constexpr int weightTag = 0;
+
+/// How many of the kinds a day of a phase may carry.
+int kindsOfPeriod(int period)
+{
+    switch (period) {
+    case 0:
+        return 1;
+    case 1:
+        return 2;
+    default:
+        return 3;
+    }
+}
+
+} // namespace
+
+CalKindButton::CalKindButton(int tag, const char16_t *key)
+    : tag_(tag)
+    , key_(key)
+{
+}
+
+QString CalKindButton::title() const { return localized(QString::fromUtf16(key_)); }
+
+void CalKindButton::set(bool visible, bool selected)
+{
+    if (visible_ == visible && selected_ == selected)
+        return;
+    visible_ = visible;
+    selected_ = selected;
+    Q_EMIT changed();
+}
+
+CalFooterField::CalFooterField(int tag, const char16_t *key)
+    : tag_(tag)
+    , key_(key)
+{
+}
+
+QString CalFooterField::title() const { return localized(QString::fromUtf16(key_)); }
+
+QString CalFooterField::unit() const
+{
+    return tag_ == weightTag ? CoreDataManager::sharedManager().kgString() : localized(QStringLiteral("см"));
+}
+
+QString CalFooterField::placeholder() const { return localized(QStringLiteral("Введите данные")); }
+
+void CalFooterField::setText(const QString &text)
+{
+    text_ = text;
+    Q_EMIT textChanged();
+}
+
+const std::array<QString, CalFooterView::fieldCount> &CalFooterView::fieldKeys()
+{
+    static const std::array<QString, fieldCount> keys{QStringLiteral("weight"), QStringLiteral("chest"),
+                                                      QStringLiteral("waist"), QStringLiteral("hip")};
+    return keys;
+}
+
+const std::array<QString, CalFooterView::kindCount> &CalFooterView::kindKeys()
+{
+    static const std::array<QString, kindCount> keys{QStringLiteral("chB"), QStringLiteral("bO"),
+                                                     QStringLiteral("feast")};
+    return keys;
+}
+
+CalFooterView::CalFooterView(CalFooterViewDelegate *delegate)
+    : delegate_(delegate)
+{
+    for (size_t tag = 0; tag < fieldCount; ++tag)
+        fields_[tag] = std::make_unique<CalFooterField>(static_cast<int>(tag), fieldTitles[tag]);
+    for (size_t tag = 0; tag < kindCount; ++tag)
+        kindButtons_[tag] = std::make_unique<CalKindButton>(static_cast<int>(tag), kindTitles[tag]);
+}
+
+QList<CalFooterField *> CalFooterView::fields() const
+{
+    QList<CalFooterField *> result;
+    for (const auto &field : fields_)
+        result.append(field.get());
+    return result;
+}
+
+QList<CalKindButton *> CalFooterView::kindButtons() const
+{
+    QList<CalKindButton *> result;
+    for (const auto &button : kindButtons_)
+        result.append(button.get());
+    return result;
+}
+
+QString CalFooterView::jornalTitle() const { return localized(QStringLiteral("Дневник Диеты")); }
+
+void CalFooterView::setDietPeriod(int period, const DietDay *forDay, const QDateTime &date)
+{
+    activeButtonsCount_ = kindsOfPeriod(period);
+    enabled_ = period >= 0;
+    date_ = date;
+    for (size_t tag = 0; tag < kindCount; ++tag)
+        kindButtons_[tag]->set(static_cast<int>(tag) < activeButtonsCount_,
+                               forDay != nullptr && forDay->valueForKey(kindKeys()[tag]).toBool());
+    Q_EMIT dayChanged();
+}
+
+void CalFooterView::fillFields(const DietDay *day)
+{
+    for (size_t tag = 0; tag < fieldCount; ++tag) {
+        const QVariant value = day != nullptr ? day->valueForKey(fieldKeys()[tag]) : QVariant();
+        fields_[tag]->setText(value.toFloat() > 0 ? plainText(value) : QString());
+    }
+}
+
+void CalFooterView::buttonTouched(int tag)
+{
+    if (!enabled_ || tag < 0 || tag >= activeButtonsCount_)
+        return;
+    CalKindButton &touched = *kindButtons_[static_cast<size_t>(tag)];
+    touched.setSelected(!touched.isSelected());
+    for (const auto &button : kindButtons_) {
+        if (button.get() != &touched)
+            button->setSelected(false);
+    }
+    if (delegate_ != nullptr)
+        delegate_->dietDayTypeButtonTouched(touched, date_, indexPath_);
+}
+
+void CalFooterView::endEditing(int tag, const QString &text)
+{
+    if (!enabled_ || delegate_ == nullptr || tag < 0 || tag >= static_cast<int>(fieldCount))
+        return;
+    if (text != fields_[static_cast<size_t>(tag)]->text())
+        delegate_->textFieldDidEndEditing(tag, text);
+}
+
+void CalFooterView::openJornal()
+{
+    if (enabled_ && delegate_ != nullptr)
+        delegate_->openJornal();
+}
+
+} // namespace kesto

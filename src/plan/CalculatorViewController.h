@@ -1,0 +1,119 @@
+#pragma once
+
+#include "components/TableViewControllerWithEcternalPicker.h"
+#include "plan/CalculatorWheels.h"
+
+#include <QDateTime>
+
+#include <array>
+#include <optional>
+
+namespace kesto
+{
+
+/// Asks for the body's measures, tells what follows from them, and starts the diet.
+class CalculatorViewController : public TableViewControllerWithEcternalPicker
+{
+    Q_OBJECT
+public:
+    enum Section { InputsSection, ResultsSection, PhasesSection, StartSection };
+    enum ResultsRow { BmiRow, BodyStatusRow, IdealWeightRow, WantedWeightRow, DifferenceRow };
+    /// Tags of the fields: section × 100 + row.
+    static constexpr int wantedWeightTag = ResultsSection * 100 + WantedWeightRow;
+    static constexpr int firstPeriodTag = PhasesSection * 100;
+    static constexpr int periodCount = 3;
+    /// The bar of the phases, below their fields.
+    static constexpr int phaseBarRow = periodCount;
+    /// A century: longer is no plan, and no calendar could be filled with it.
+    static constexpr int longestPeriod = 36500;
+
+    explicit CalculatorViewController(QObject *parent = nullptr);
+
+    void setUpData();
+    /// The labels of the first three sections; those of the first are also the keys under which the inputs are stored.
+    [[nodiscard]] static const QList<QStringList> &keys();
+    /// Of an input row, while nothing is stored; invalid for others.
+    [[nodiscard]] static QVariant defaultValueForIndex(int index);
+    [[nodiscard]] static QStringList handTypes() { return CalculatorWheels::handTypes(); }
+    /// The word after an age. In Russian it goes by the last digit alone.
+    [[nodiscard]] static QString agePrefixForValue(const QVariant &value);
+
+    /// Computes every result anew. A hand-edited length of a phase ends here, a wanted weight does not.
+    void calculateDiet();
+    /// Stores what the wheels of the open input stand for; the wanted weight becomes the ideal one.
+    void pickerView(int didSelectRow, int inComponent);
+    /// A hand-edited wanted weight, always in kilograms, or length of a phase.
+    void textFieldDidEndEditing(int tag, const QString &text);
+
+    /// Asks for the first day.
+    void startDietIntro();
+    /// Asks whether the earlier days may go.
+    void showAlert();
+    void alertView(int clickedButtonAtIndex);
+    /// Deletes the diet days before the moment, stores the plan from the beginning of its day, and opens the calendar.
+    void startDietOn(const QDateTime &date);
+    /// Marks days as pure protein, from a date in steps of 86,400 seconds.
+    void makeAttackPeriodForDate(const QDateTime &date, int periodDays);
+
+    [[nodiscard]] int handType() const { return handType_; }
+    [[nodiscard]] float bmi() const { return bmi_; }
+    [[nodiscard]] QString bodyStatus() const { return bodyStatus_; }
+    [[nodiscard]] float idealWeidht() const { return idealWeidht_; }
+    [[nodiscard]] float wantedWeight() const { return wantedWeight_; }
+    [[nodiscard]] float difWeight() const { return difWeight_; }
+    [[nodiscard]] int period1() const { return periods_[0]; }
+    [[nodiscard]] int period2() const { return periods_[1]; }
+    [[nodiscard]] int period3() const { return periods_[2]; }
+    [[nodiscard]] bool calculated() const { return calculated_; }
+    [[nodiscard]] bool metrickSystem() const { return metrickSystem_; }
+    [[nodiscard]] QString kgString() const { return kgString_; }
+    [[nodiscard]] QString cmString() const { return cmString_; }
+    /// Held while the user is asked about the earlier days.
+    [[nodiscard]] const std::optional<QDateTime> &startDiedDate() const { return startDiedDate_; }
+
+    [[nodiscard]] int numberOfSections() const override { return StartSection + 1; }
+    [[nodiscard]] int numberOfRowsInSection(int section) const override;
+    [[nodiscard]] TableRow cellForRow(const IndexPath &path) const override;
+    /// Without a word, but a gap.
+    [[nodiscard]] QString titleForHeaderInSection(int section) const override;
+
+protected:
+    void viewDidLoad() override;
+    void viewWillAppear() override;
+    void didSelectRow(const IndexPath &path) override;
+    void textFieldDidEndEditing(const IndexPath &path, int tag, const QString &text) override;
+    [[nodiscard]] int numberOfComponentsInPicker() const override { return wheels().numberOfComponents(); }
+    [[nodiscard]] int numberOfRowsInComponent(int component) const override { return wheels().numberOfRows(component); }
+    [[nodiscard]] QString titleForRow(int row, int component) const override { return wheels().title(row, component); }
+    [[nodiscard]] int selectedRowInComponent(int component) const override;
+    void pickerDidSelectRow(int row, int component) override { pickerView(row, component); }
+
+private:
+    /// Of the input whose wheels are open.
+    [[nodiscard]] CalculatorWheels wheels() const;
+    [[nodiscard]] static QVariant storedValue(int index);
+    [[nodiscard]] TableRow inputRow(int row) const;
+    [[nodiscard]] TableRow resultRow(int row) const;
+    [[nodiscard]] TableRow periodRow(int row) const;
+    [[nodiscard]] TableRow barRow() const;
+    [[nodiscard]] TableRow fieldRow(const QString &title, const IndexPath &path, const QString &text,
+                                    const QString &unit) const;
+    [[nodiscard]] double shownWeight(float kilograms) const;
+    void dialogAnswered(const QDateTime &date);
+
+    QList<QStringList> content_; // titles of the first three sections
+    QString kgString_;
+    QString cmString_;
+    bool metrickSystem_ = true;
+    int handType_ = 1;
+    float bmi_ = 0;
+    QString bodyStatus_;
+    float idealWeidht_ = 0;
+    float wantedWeight_ = 0;
+    float difWeight_ = 0;
+    std::array<int, periodCount> periods_{};
+    bool calculated_ = false;
+    std::optional<QDateTime> startDiedDate_;
+};
+
+} // namespace kesto

@@ -1,0 +1,207 @@
+#include "plan/CalendarViewController.h"
+
+#include "components/NavigationController.h"
+#include "model/DietDay.h"
+#include "model/Dish.h"
+#include "model/DishInDietDay.h"
+#include "plan/CalculatorWheels.h"
+#include "plan/TypedNumber.h"
+#include "platform/Clock.h"
+#include "platform/Platform.h"
+#include "platform/StringFormat.h"
+#include "platform/StringTables.h"
+#include "store/CoreDataManager.h"
+#include "util/MNAdditions.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <utility>
+
+namespace kesto
+{
+
+namespace
+{
+
+ManagedObjectContext &context() { return *CoreDataManager::sharedManager().managedObjectContext(); }
+
+QDateTime today() { return mn_beginningOfDay(Platform::current().clock().now()); }
+
+int periodOf(const QDateTime &date)
+{
+    return CoreDataManager::dietPeriodForCalendar(Platform::current().calendar(), date);
+}
+
+} // namespace
+
+CalendarViewController::CalendarViewController(CalendarScreens screens)
+    : screens_(std::move(screens))
+{
+}
+
+void CalendarViewController::viewDidLoad()
+{
+    currentDate_ = today();
+    month_.showMonth(Platform::current().calendar().dayOf(currentDate_));
+    month_.setSelectedDate(currentDate_);
+    footer_.setIndexPath(CalendarMonth::indexPathOf(month_.selectedIndex()));
+    updateUIForDate(currentDate_, periodOf(currentDate_));
+}
+
+// The journal and the screen of a day may have changed what is shown, and midnight may have passed.
+void CalendarViewController::viewWillAppear()
+{
+    month_.refresh();
+    dietPeriod_ = periodOf(currentDate_);
+    readDay();
+}
+
+bool CalendarViewController::calendarView(const QDateTime &shouldSelectDate) const
+{
+    return CalendarMonth::isFromStartOn(shouldSelectDate);
+}
+
+void CalendarViewController::calendarView(const CalendarCell &didSelectCell, const IndexPath &atIndexPath)
+{
+    Q_EMIT editingShouldEnd(); // what is being typed belongs to the day before
+    currentDate_ = didSelectCell.date;
+    month_.setSelectedDate(currentDate_);
+    footer_.setIndexPath(atIndexPath);
+    updateUIForDate(didSelectCell.date, didSelectCell.dietPeriod);
+}
+
+void CalendarViewController::touchCell(int index)
+{
+    if (index < 0 || index >= month_.cells().size())
+        return;
+    const CalendarCell cell = month_.cells()[index];
+    if (calendarView(cell.date))
+        calendarView(cell, CalendarMonth::indexPathOf(index));
+}
+
+void CalendarViewController::updateUIForDate(const QDateTime &date, int dietPeriod)
+{
+    currentDate_ = date;
+    dietPeriod_ = dietPeriod;
+    if (dayScreen_ != nullptr) {
+        dayScreen_->setDisbledDay(isDayDisabled());
+        if (!isDayDisabled())
+            dayScreen_->setDate(date, dietPeriod);
+    }
+    readDay();
+}
+
+void CalendarViewController::readDay()
+{
+    const DietDay *day = isDayDisabled() ? nullptr : DietDay::dayWithoutCreation(currentDate_, context());
+    const CoreDataManager &manager = CoreDataManager::sharedManager();
+    const float weight = day != nullptr ? day->weight().value_or(0) : 0;
+    currentWeight_ = weight > 0
+                         ? stringWithFormat("%0.1f %@", manager.isMetrickSystem() ? weight : weight / kilogramsPerPound,
+                                            manager.kgString())
+                         : QStringLiteral("-");
+    dishes_.clear();
+    if (day != nullptr && dayScreen_ == nullptr) {
+        FetchRequest request;
+        request.predicate = attribute("dietDays") == day;
+        request.sortDescriptors = {{"displayOrder"}};
+        request.relationshipKeyPathsForPrefetching = {"dish"};
+        const QString nameKey = localized(QStringLiteral("nameKey"));
+        for (const DishInDietDay *planned : context().fetch<DishInDietDay>(request)) {
+            if (const Dish *dish = planned->dish())
+                dishes_.append(dish->valueForKey(nameKey).toString());
+        }
+    }
+    footer_.fillFields(day);
+    footer_.setDietPeriod(dietPeriod_, day, currentDate_);
+    Q_EMIT dayChanged();
+}
+
+QString CalendarViewController::periodName() const { return CoreDataManager::periodNameForDietPeriod(dietPeriod_); }
+
+QColor CalendarViewController::periodColor() const
+{
+    return CoreDataManager::colorForPeriod(dietPeriod_).value_or(QColor());
+}
+
+QString CalendarViewController::dateText() const
+{
+    const QLocale locale(Platform::current().strings().preferredLanguage());
+    return locale.toString(Platform::current().calendar().dayOf(currentDate_), QStringLiteral("dd MMMM"));
+}
+
+void CalendarViewController::nextMonth() { moveMonth(1); }
+
+void CalendarViewController::previousMonth() { moveMonth(-1); }
+
+void CalendarViewController::moveMonth(int count)
+{
+    Q_EMIT editingShouldEnd();
+    month_.showMonth(month_.month().addMonths(count));
+}
+
+void CalendarViewController::showToday()
+{
+    Q_EMIT editingShouldEnd();
+    month_.showMonth(Platform::current().calendar().dayOf(today()));
+}
+
+void CalendarViewController::removeIfEmpty(DietDay &day)
+{
+    if (day.isEmpty())
+        context().deleteObject(day);
+    (void)context().save(); // what could not be written stays to be saved with the next change
+}
+
+void CalendarViewController::dietDayTypeButtonTouched(const CalKindButton &button, const QDateTime &date,
+                                                      const IndexPath &)
+{
+    DietDay &day = DietDay::dietDatWithDate(date, context());
+    for (const QString &key : CalFooterView::kindKeys())
+        day.setValueForKey(QVariant(), key);
+    if (button.isSelected()) // otherwise the day stays without: a stored NO would keep it from being empty
+        day.setValueForKey(true, CalFooterView::kindKeys()[static_cast<size_t>(button.tag())]);
+    removeIfEmpty(day);
+    dietDayDetailViewControllerDidUpdateDay();
+    if (dayScreen_ != nullptr)
+        dayScreen_->setDate(currentDate_, dietPeriod_);
+}
+
+void CalendarViewController::textFieldDidEndEditing(int tag, const QString &text)
+{
+    const QString &key = CalFooterView::fieldKeys()[static_cast<size_t>(tag)];
+    const float value = floatValue(text);
+    DietDay &day = DietDay::dietDatWithDate(currentDate_, context());
+    day.setValueForKey(value > 0 ? QVariant(value) : QVariant(), key);
+    removeIfEmpty(day);
+    dietDayDetailViewControllerDidUpdateDay();
+    if (dayScreen_ != nullptr)
+        dayScreen_->setDate(currentDate_, dietPeriod_);
+}
+
+void CalendarViewController::dietDayDetailViewControllerDidUpdateDay()
+{
+    month_.refreshDate(currentDate_);
+    readDay();
+}
+
+void CalendarViewController::openJornal()
+{
+    if (screens_.jornal && !isDayDisabled())
+        push(screens_.jornal(currentDate_));
+}
+
+void CalendarViewController::openDaySettings()
+{
+    if (screens_.day && dayScreen_ == nullptr && !isDayDisabled())
+        push(screens_.day(currentDate_, dietPeriod_, this));
+}
+
+void CalendarViewController::push(std::unique_ptr<ViewController> screen)
+{
+    if (NavigationController *navigation = navigationController(); navigation != nullptr && screen != nullptr)
+        navigation->pushViewController(std::move(screen), true);
+}
+
+} // namespace kesto

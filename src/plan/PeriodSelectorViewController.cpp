@@ -1,0 +1,42 @@
+#include "plan/PeriodSelectorViewController.h"
+
+#include "platform/StringTables.h"
+
+namespace kesto
+{
+
+namespace
+{
+
+QStringList titles()
+{
+    return {QStringLiteral("Все"), QStringLiteral("Атака"), QStringLiteral("Круиз"), QStringLiteral("Консол."),
+            QStringLiteral("Стаб.")};
+}
+
+} // namespace
+
+PeriodSelectorViewController::PeriodSelectorViewController(int currentPeriod, PeriodSelectorDelegate *delegate)
+    : currentPeriod_(currentPeriod)
+    , delegate_(delegate)
+{
+}
+
+int PeriodSelectorViewController::numberOfRowsInSection(int) const { return static_cast<int>(titles().size()); }
+
+TableRow PeriodSelectorViewController::cellForRow(const IndexPath &path) const
+{
+    return {.kind = TableRow::Kind::Text,
+            .title = localized(titles()[path.row]),
+            .accessory = path.row == currentPeriod_ ? TableRow::Accessory::Checkmark : TableRow::Accessory::None};
+}
+
+void PeriodSelectorViewController::didSelectRow(const IndexPath &path)
+{
+    currentPeriod_ = path.row;
+    reloadData();
+    if (delegate_ != nullptr)
+        delegate_->updateToPeriod(path.row);
+}
+
+} // namespace kesto

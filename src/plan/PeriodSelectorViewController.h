@@ -1,0 +1,28 @@
+#pragma once
+
+#include "components/PeriodSelectorDelegate.h"
+#include "components/TableViewController.h"
+
+namespace kesto
+{
+
+/// Five rows that narrow a list of dishes to a phase: all, and the four phases.
+class PeriodSelectorViewController : public TableViewController
+{
+    Q_OBJECT
+public:
+    /// The delegate outlives this or is null.
+    PeriodSelectorViewController(int currentPeriod, PeriodSelectorDelegate *delegate);
+
+    [[nodiscard]] int numberOfRowsInSection(int section) const override;
+    [[nodiscard]] TableRow cellForRow(const IndexPath &path) const override;
+
+protected:
+    void didSelectRow(const IndexPath &path) override;
+
+private:
+    int currentPeriod_;
+    PeriodSelectorDelegate *delegate_;
+};
+
+} // namespace kesto

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QList>
+#include <QVariantList>
+
+#include <optional>
+
+class QDate;
+
+namespace kesto
+{
+
+/// The days that a phase takes of a plan, counted from the first day of the diet.
+struct PhaseSpan
+{
+    int phase = 0;
+    qint64 firstDay = 0;
+    std::optional<qint64> days; ///< absent: without end
+    bool operator==(const PhaseSpan &) const = default;
+};
+
+/// The phases that have days, by the lengths of the first three, as CoreDataManager tells the phase of a date. The last
+/// is Stabilization.
+[[nodiscard]] QList<PhaseSpan> phaseSpans(int period1, int period2, int period3);
+
+/// The same as a view draws it, for a diet that starts on a day: dictionaries with "name", "color", "dates" and "days"
+/// (0 without end).
+[[nodiscard]] QVariantList phaseBar(const QList<PhaseSpan> &spans, const QDate &start);
+
+} // namespace kesto

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+namespace kesto
+{
+
+/// The number that a typed text begins with, after white space; 0 when it begins with none. A comma counts as a point.
+/// A number out of range becomes the nearest in range.
+[[nodiscard]] float floatValue(const QString &text);
+
+/// The whole number that a typed text begins with; 0 when it begins with none. Likewise limited.
+[[nodiscard]] int integerValue(const QString &text);
+
+} // namespace kesto

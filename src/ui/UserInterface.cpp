@@ -1,0 +1,55 @@
+#include "UserInterface.h"
+
+#include "ImageProvider.h"
+
+#include "components/AlertCenter.h"
+#include "components/ProgressIndicator.h"
+#include "components/Window.h"
+#include "platform/Log.h"
+#include "platform/Platform.h"
+
+#include <QQmlExtensionPlugin>
+#include <QQuickWindow>
+
+Q_IMPORT_QML_PLUGIN(KestoPlugin)
+
+namespace kesto
+{
+
+UserInterface::UserInterface(Platform &platform)
+    : platform_(platform)
+    , appearance_(nullptr)
+{
+    prepare(engine_, platform);
+    appearance_.giveTo(engine_);
+    QObject::connect(&engine_, &QQmlEngine::warnings, [](const QList<QQmlError> &warnings) {
+        for (const auto &warning : warnings)
+            log("interface: %@", warning.toString());
+    });
+    engine_.setOutputWarningsToStandardError(false);
+}
+
+void UserInterface::prepare(QQmlEngine &engine, const Platform &platform)
+{
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine.addImageProvider(ImageProvider::scheme(),
+                            new ImageProvider(platform.resourcesFolder() + QStringLiteral("/images")));
+}
+
+bool UserInterface::load()
+{
+    engine_.setInitialProperties(
+        {{QStringLiteral("appWindow"), QVariant::fromValue(&platform_.shared<Window>())},
+         {QStringLiteral("alertCenter"), QVariant::fromValue(&platform_.shared<AlertCenter>())},
+         {QStringLiteral("progress"), QVariant::fromValue(&platform_.shared<ProgressIndicator>())}});
+    engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Kesto/Main.qml")));
+    return window() != nullptr;
+}
+
+QQuickWindow *UserInterface::window() const
+{
+    const QList<QObject *> roots = engine_.rootObjects();
+    return roots.isEmpty() ? nullptr : qobject_cast<QQuickWindow *>(roots.first());
+}
+
+} // namespace kesto

@@ -1,0 +1,169 @@
+import QtQuick
+import QtQuick.Layouts
+import Kesto
+
+/*! A question in the middle: title, message, a field or wheels, and buttons. Enter presses the button that does it, Escape cancels. */
+FocusScope {
+    id: dialog
+
+    property string title
+    property string message
+    required property var buttonTitles
+    property int cancelButtonIndex: -1
+    property int destructiveButtonIndex: -1
+    property bool hasTextField: false
+    property string placeholder
+    property string text
+    property int keyboard: Keyboard.Text
+    property Picker picker: null
+    readonly property int preferred: {
+        const count = buttonTitles.length;
+        for (let i = 0; i < count; ++i) {
+            if (i !== cancelButtonIndex && i !== destructiveButtonIndex)
+                return i;
+        }
+        return count === 1 ? 0 : cancelButtonIndex;
+    }
+    readonly property bool sideBySide: buttonTitles.length === 2 && buttons.widest <= (card.width - 3 * Tokens.unit) / 2
+
+    signal answered(int button)
+    signal cancelled
+    signal edited(string text)
+
+    implicitWidth: Math.round(Tokens.dialogWidth * (1 + (Tokens.textScale - 1) * 0.3))
+    implicitHeight: card.height
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: Texts.joined([title, message], ". ")
+
+    Keys.onEscapePressed: cancelled()
+    Component.onCompleted: {
+        if (hasTextField)
+            field.forceActiveFocus(Qt.OtherFocusReason);
+        else if (picker)
+            (wheels.item as WheelPicker).forceActiveFocus(Qt.OtherFocusReason);
+        else
+            buttons.focusPreferred();
+    }
+
+    Rectangle {
+        id: card
+
+        width: parent.width
+        height: Math.min(column.height + 2 * Tokens.unit, dialog.parent ? dialog.parent.height - 2 * Tokens.wide : 10000)
+        radius: Tokens.radius
+        color: Tokens.colors.surfaceRaised
+
+        Flickable {
+            id: scroll
+
+            anchors.fill: parent
+            anchors.margins: Tokens.unit
+            contentHeight: column.height
+            clip: contentHeight > height
+            interactive: contentHeight > height
+            boundsBehavior: Flickable.StopAtBounds
+
+            Column {
+                id: column
+
+                width: scroll.width
+                spacing: Tokens.unit
+
+                Item {
+                    width: 1
+                    height: Tokens.half
+                }
+                Label {
+                    x: Tokens.unit
+                    width: parent.width - 2 * x
+                    visible: text.length > 0
+                    text: dialog.title
+                    font.weight: Font.Medium
+                    font.pixelSize: Tokens.textTitle
+                    horizontalAlignment: Text.AlignHCenter
+                }
+                Label {
+                    x: Tokens.unit
+                    width: parent.width - 2 * x
+                    visible: text.length > 0
+                    text: dialog.message
+                    color: dialog.title.length > 0 ? Tokens.colors.textQuiet : Tokens.colors.text
+                    horizontalAlignment: Text.AlignHCenter
+                }
+                TextField {
+                    id: field
+
+                    x: Tokens.unit
+                    width: parent.width - 2 * x
+                    visible: dialog.hasTextField
+                    name: dialog.title
+                    placeholderText: dialog.placeholder
+                    text: dialog.text
+                    inputMethodHints: dialog.keyboard === Keyboard.Decimal ? Qt.ImhFormattedNumbersOnly
+                        : dialog.keyboard === Keyboard.Number ? Qt.ImhDigitsOnly
+                        : dialog.keyboard === Keyboard.Email ? Qt.ImhEmailCharactersOnly : Qt.ImhNone
+                    onTextEdited: dialog.edited(text)
+                    Keys.onReturnPressed: dialog.answered(dialog.preferred)
+                    Keys.onEnterPressed: dialog.answered(dialog.preferred)
+                    Keys.onEscapePressed: dialog.cancelled()
+                }
+                Loader {
+                    id: wheels
+
+                    width: parent.width
+                    active: dialog.picker !== null
+                    visible: active
+                    sourceComponent: WheelPicker {
+                        picker: dialog.picker
+                        name: dialog.title
+                        Keys.onReturnPressed: dialog.answered(dialog.preferred)
+                        Keys.onEnterPressed: dialog.answered(dialog.preferred)
+                    }
+                }
+                GridLayout {
+                    id: buttons
+
+                    readonly property real widest: {
+                        let width = 0;
+                        for (let i = 0; i < repeater.count; ++i)
+                            width = Math.max(width, (repeater.itemAt(i) as Button)?.implicitWidth ?? 0);
+                        return width;
+                    }
+
+                    function focusPreferred(): void {
+                        const item = repeater.itemAt(Math.max(0, dialog.preferred));
+                        if (item)
+                            item.forceActiveFocus(Qt.OtherFocusReason);
+                    }
+
+                    width: parent.width
+                    columns: dialog.sideBySide ? 2 : 1
+                    columnSpacing: Tokens.unit
+                    rowSpacing: Tokens.half
+
+                    Repeater {
+                        id: repeater
+
+                        model: dialog.buttonTitles
+
+                        Button {
+                            required property string modelData
+                            required property int index
+
+                            Layout.fillWidth: true
+                            Layout.preferredWidth: 1
+                            text: modelData
+                            primary: index === dialog.preferred && index !== dialog.cancelButtonIndex
+                            destructive: index === dialog.destructiveButtonIndex
+                            onClicked: dialog.answered(index)
+                            Keys.onUpPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+                            Keys.onLeftPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+                            Keys.onDownPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+                            Keys.onRightPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+                        }
+                    }
+                }
+            }
+        }
+    }
+}

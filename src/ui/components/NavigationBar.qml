@@ -1,0 +1,98 @@
+import QtQuick
+import Kesto
+
+/*! The light green bar over a screen: the way back, the title, the screen's buttons. */
+Rectangle {
+    id: bar
+
+    property string title
+    property bool canGoBack: false
+    property string backTitle
+    property var leftItems: []
+    property var rightItems: []
+    readonly property real leftEnd: (back.visible ? back.width : 0) + left.width
+    readonly property real side: Math.max(leftEnd, right.width) + Tokens.half
+    readonly property bool centred: label.natural <= width - 2 * side
+
+    signal backRequested
+
+    implicitHeight: Math.max(Tokens.barHeight, label.contentHeight + Tokens.unit)
+    color: Tokens.colors.bar
+    Accessible.role: Accessible.ToolBar
+    Accessible.name: title
+
+    BarButton {
+        id: back
+
+        readonly property real wide: backText.implicitWidth + Tokens.icon + Tokens.wide
+
+        visible: bar.canGoBack
+        anchors.verticalCenter: parent.verticalCenter
+        width: implicitWidth
+        back: true
+        title: wide < bar.width / 3 && bar.width - 2 * Math.max(wide, right.width) > label.natural ? bar.backTitle : ""
+        name: bar.backTitle.length > 0 ? bar.backTitle : Texts.localized("Back")
+        onClicked: bar.backRequested()
+
+        Label {
+            id: backText
+
+            visible: false
+            text: bar.backTitle
+            wrapMode: Text.NoWrap
+        }
+    }
+    BarItems {
+        id: left
+
+        x: back.visible ? back.width : 0
+        anchors.verticalCenter: parent.verticalCenter
+        items: bar.leftItems
+        widest: bar.width / 3
+    }
+    Label {
+        id: label
+
+        readonly property real natural: measure.implicitWidth
+
+        x: bar.centred ? bar.side : bar.leftEnd + Tokens.half
+        width: bar.centred ? bar.width - 2 * bar.side : bar.width - bar.leftEnd - right.width - Tokens.unit
+        anchors.verticalCenter: parent.verticalCenter
+        text: bar.title
+        color: Tokens.colors.barTitle
+        style: Text.Raised
+        styleColor: Tokens.colors.barTitleShade
+        font.pixelSize: Tokens.textTitle
+        font.weight: Font.Light
+        horizontalAlignment: Text.AlignHCenter
+        maximumLineCount: 2
+        elide: Text.ElideRight
+        lineHeight: 0.95
+        Accessible.ignored: false
+        Accessible.role: Accessible.Heading
+        Accessible.name: text
+
+        Label {
+            id: measure
+
+            visible: false
+            text: bar.title
+            font: label.font
+            wrapMode: Text.NoWrap
+        }
+    }
+    BarItems {
+        id: right
+
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        items: bar.rightItems
+        widest: bar.width / 3
+    }
+    Rectangle {
+        anchors.bottom: parent.bottom
+        width: parent.width
+        height: Tokens.hairline
+        color: Tokens.colors.barLine
+    }
+}

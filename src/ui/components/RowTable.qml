@@ -1,0 +1,188 @@
+import QtQuick
+import Kesto
+
+/*!
+    Draws the table of any TableViewController. The keyboard: Up and Down choose a row, Enter and Space touch it, Tab goes from
+    field to field, Delete deletes, Ctrl with Up and Down moves a row while the table is edited.
+*/
+TableBase {
+    id: root
+
+    /*! An index of the headers at the right. */
+    property bool showsIndex: false
+    property string picture
+    property string emptyText
+    property real topMargin: Tokens.unit
+    property real bottomMargin: Tokens.wide
+    readonly property alias list: list
+    property bool byKeyboard: false
+    property TableLine openLine: null
+
+    inset: Math.max(Tokens.margin, (list.width - Tokens.readableWidth) / 2)
+    keyboardShown: byKeyboard && list.activeFocus
+    onTouched: line => {
+        byKeyboard = false;
+        list.currentIndex = (line as TableLine).index;
+        focusList();
+    }
+    onFieldEntered: line => {
+        list.currentIndex = (line as TableLine).index;
+        list.positionViewAtIndex(list.currentIndex, ListView.Contain);
+    }
+    onFieldLeft: focusList()
+    onDeleteShown: line => {
+        if (openLine && openLine !== line)
+            openLine.closeDelete();
+        openLine = line as TableLine;
+    }
+    onTabbed: (line, by, event) => event.accepted = toField(line as TableLine, by)
+    onLifted: line => {
+        carriedLine = line as TableLine;
+        target = null;
+    }
+    onCarried: (line, by) => carry(line as TableLine, by)
+    onDropped: line => drop(line as TableLine)
+    onStepped: (line, by) => step(line as TableLine, by)
+
+    function focusList(): void {
+        (list.currentItem ?? list).forceActiveFocus(Qt.OtherFocusReason);
+    }
+    /*! To the next row, over headers and footers. */
+    function go(by: int): bool {
+        const before = list.currentIndex;
+        let i = before < 0 ? (by > 0 ? -1 : list.count) : before;
+        do {
+            i += by;
+            if (i < 0 || i >= list.count) {
+                list.currentIndex = before;
+                return false;
+            }
+            list.currentIndex = i;
+        } while (!currentLine() || !currentLine().isRow);
+        list.positionViewAtIndex(list.currentIndex, ListView.Contain);
+        return true;
+    }
+    function currentLine(): TableLine {
+        return list.currentItem as TableLine;
+    }
+    /*! To the next field; false when there is none. */
+    function toField(from: TableLine, by: int): bool {
+        for (let i = from.index + by; i >= 0 && i < list.count; i += by) {
+            list.currentIndex = i;
+            const line = currentLine();
+            if (line && line.isRow && line.enabled && (line.kind === TableRow.Editable || line.kind === TableRow.Editor)) {
+                line.activate();
+                return true;
+            }
+        }
+        list.currentIndex = from.index;
+        return false;
+    }
+
+    // Moving a row: it floats, a line shows where it would go, and the controller hears of it when it is let go.
+    property TableLine carriedLine: null
+    property TableLine target: null
+
+    function carry(line: TableLine, by: real): void {
+        line.lift = by;
+        const middle = line.y + by + line.height / 2;
+        const under = list.itemAt(list.width / 2, Math.max(0, Math.min(list.contentHeight + list.originY - 1, middle))) as TableLine;
+        target = under && under.isRow && under !== line ? under : null;
+    }
+    function drop(line: TableLine): void {
+        const to = target;
+        line.lift = 0;
+        carriedLine = null;
+        target = null;
+        if (to)
+            controller.moveRowByUser(line.section, line.row, to.section, to.row);
+    }
+    function step(line: TableLine, by: int): void {
+        if (line.canMove && line.row + by >= 0)
+            controller.moveRowByUser(line.section, line.row, line.section, line.row + by);
+    }
+
+    ListView {
+        id: list
+
+        objectName: "list"
+        anchors.fill: parent
+        focus: true
+        activeFocusOnTab: true
+        model: root.controller.table
+        topMargin: root.topMargin
+        bottomMargin: root.bottomMargin
+        keyNavigationEnabled: false
+        highlightFollowsCurrentItem: false
+        currentIndex: -1
+        cacheBuffer: 400
+        boundsBehavior: Flickable.StopAtBounds
+        ScrollBar.vertical: ScrollBar {}
+        Accessible.role: Accessible.List
+        Accessible.name: root.controller.title
+
+        delegate: TableLine { table: root }
+
+        onActiveFocusChanged: if (activeFocus && currentIndex < 0) root.go(1)
+        Keys.onPressed: event => {
+            const line = root.currentLine();
+            root.byKeyboard = true;
+            event.accepted = true;
+            if ((event.modifiers & Qt.ControlModifier) && (event.key === Qt.Key_Up || event.key === Qt.Key_Down)) {
+                if (line && root.controller.editing)
+                    root.step(line, event.key === Qt.Key_Up ? -1 : 1);
+                return;
+            }
+            switch (event.key) {
+            case Qt.Key_Up: event.accepted = root.go(-1); break;
+            case Qt.Key_Down: event.accepted = root.go(1); break;
+            case Qt.Key_Home: list.currentIndex = -1; root.go(1); break;
+            case Qt.Key_End: list.currentIndex = -1; root.go(-1); break;
+            case Qt.Key_PageDown: root.page(1); break;
+            case Qt.Key_PageUp: root.page(-1); break;
+            case Qt.Key_Return:
+            case Qt.Key_Enter:
+            case Qt.Key_Space: if (line) line.activate(); break;
+            case Qt.Key_Delete: if (line) line.remove(); break;
+            default: event.accepted = false;
+            }
+        }
+
+        move: Transition { NumberAnimation { properties: "y"; duration: Tokens.normal } }
+        displaced: Transition { NumberAnimation { properties: "y"; duration: Tokens.normal; easing.type: Easing.OutCubic } }
+        add: Transition { NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Tokens.normal } }
+    }
+    function page(by: int): void {
+        for (let i = 0; i < 8 && go(by); ++i);
+    }
+
+    Rectangle {
+        visible: root.target !== null
+        x: root.inset
+        width: root.width - 2 * x
+        height: 3
+        radius: 1.5
+        color: Tokens.colors.accent
+        y: {
+            const to = root.target;
+            if (!to || !root.carriedLine)
+                return 0;
+            const below = to.index > root.carriedLine.index;
+            return to.y - list.contentY + (below ? to.height : 0) - 1;
+        }
+    }
+    SectionIndex {
+        anchors.right: parent.right
+        height: parent.height
+        visible: root.showsIndex && list.contentHeight > list.height
+        table: root.controller.table
+        onChosen: line => list.positionViewAtIndex(line, ListView.Beginning)
+    }
+    EmptyState {
+        anchors.centerIn: parent
+        width: Math.min(parent.width - 2 * Tokens.huge, 320)
+        visible: list.count === 0 && (title.length > 0 || picture.length > 0)
+        picture: root.picture
+        title: root.emptyText
+    }
+}

@@ -1,0 +1,43 @@
+import QtQuick
+import Kesto
+
+/*! A whole screen that says what the program is busy with. */
+Rectangle {
+    id: page
+
+    property string text
+    property string picture: "background"
+
+    color: Tokens.colors.bar
+    Accessible.role: Accessible.Indicator
+    Accessible.name: text
+
+    Image {
+        anchors.fill: parent
+        source: "image://kesto/" + page.picture
+        sourceSize.width: 144
+        sourceSize.height: 144
+        fillMode: Image.Tile
+        Accessible.ignored: true
+    }
+    Column {
+        anchors.centerIn: parent
+        width: parent.width - 2 * Tokens.wide
+        spacing: Tokens.wide
+
+        Label {
+            width: parent.width
+            text: page.text
+            color: Tokens.colors.barTitle
+            style: Text.Raised
+            styleColor: Tokens.colors.barTitleShade
+            font.pixelSize: Tokens.textLarge
+            font.weight: Font.Light
+            horizontalAlignment: Text.AlignHCenter
+        }
+        BusyIndicator {
+            anchors.horizontalCenter: parent.horizontalCenter
+            color: Tokens.colors.barTitle
+        }
+    }
+}

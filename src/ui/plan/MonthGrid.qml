@@ -1,0 +1,155 @@
+import QtQuick
+import Kesto
+
+/*!
+    A month under its name. The keyboard: the arrows walk over the days, Enter and Space select one, Page Up and Page Down
+    turn the months; a finger turns them by a swipe.
+*/
+FocusScope {
+    id: grid
+
+    required property CalendarMonth month
+    property real cellHeight: 46
+    property int cursor: month.selectedIndex
+    property bool byKeyboard: false
+
+    signal nextRequested
+    signal previousRequested
+    signal todayRequested
+    signal touched(int index)
+
+    function walk(by: int): void {
+        const next = (cursor < 0 ? month.selectedIndex : cursor) + by;
+        if (next < 0)
+            previousRequested();
+        else if (next >= days.count)
+            nextRequested();
+        else
+            cursor = next;
+    }
+
+    implicitHeight: column.height + Tokens.unit
+
+    Rectangle {
+        anchors.fill: parent
+        radius: Tokens.radius
+        color: Tokens.colors.surface
+    }
+    Column {
+        id: column
+
+        x: Tokens.half
+        width: parent.width - 2 * x
+
+        Item {
+            width: parent.width
+            height: Tokens.rowHeight
+
+            IconButton {
+                picture: "chevron_left"
+                name: grid.month.previousTitle
+                onClicked: grid.previousRequested()
+            }
+            Button {
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: Math.min(implicitWidth, parent.width - 2 * Tokens.rowHeight)
+                text: grid.month.title
+                textSize: Tokens.textTitle
+                onClicked: grid.todayRequested()
+            }
+            IconButton {
+                anchors.right: parent.right
+                picture: "chevron_right"
+                name: grid.month.nextTitle
+                onClicked: grid.nextRequested()
+            }
+        }
+        Row {
+            width: parent.width
+            height: Math.round(Tokens.textCaption * 1.8)
+
+            Repeater {
+                model: grid.month.weekdayTitles
+
+                Label {
+                    required property string modelData
+
+                    width: column.width / 7
+                    text: modelData
+                    wrapMode: Text.NoWrap
+                    horizontalAlignment: Text.AlignHCenter
+                    color: Tokens.colors.textQuiet
+                    font.pixelSize: Tokens.textCaption
+                }
+            }
+        }
+        Grid {
+            id: cells
+
+            width: parent.width
+            columns: 7
+            focus: true
+            activeFocusOnTab: true
+            Accessible.role: Accessible.Table
+            Accessible.name: grid.month.title
+            Keys.onPressed: event => {
+                event.accepted = true;
+                grid.byKeyboard = true;
+                switch (event.key) {
+                case Qt.Key_Left: grid.walk(-1); break;
+                case Qt.Key_Right: grid.walk(1); break;
+                case Qt.Key_Up: grid.walk(-7); break;
+                case Qt.Key_Down: grid.walk(7); break;
+                case Qt.Key_PageUp: grid.previousRequested(); break;
+                case Qt.Key_PageDown: grid.nextRequested(); break;
+                case Qt.Key_Home: grid.todayRequested(); break;
+                case Qt.Key_Return:
+                case Qt.Key_Enter:
+                case Qt.Key_Space: if (grid.cursor >= 0) grid.touched(grid.cursor); break;
+                default: event.accepted = false;
+                }
+            }
+
+            Repeater {
+                id: days
+
+                model: grid.month
+
+                MonthDay {
+                    width: cells.width / 7
+                    height: grid.cellHeight
+                    current: grid.byKeyboard && cells.activeFocus && index === grid.cursor
+                    onTouched: {
+                        grid.byKeyboard = false;
+                        cells.forceActiveFocus(Qt.MouseFocusReason);
+                        grid.touched(index);
+                    }
+                }
+            }
+        }
+    }
+    DragHandler {
+        target: null
+        yAxis.enabled: false
+        onActiveChanged: {
+            if (active)
+                return;
+            const by = activeTranslation.x;
+            if (Math.abs(by) < grid.width / 6)
+                return;
+            if (by < 0)
+                grid.nextRequested();
+            else
+                grid.previousRequested();
+        }
+    }
+    Connections {
+        target: grid.month
+        function onSelectedIndexChanged() {
+            grid.cursor = grid.month.selectedIndex;
+        }
+        function onMonthChanged() {
+            grid.cursor = grid.month.selectedIndex >= 0 ? grid.month.selectedIndex : 0;
+        }
+    }
+}

@@ -1,0 +1,12 @@
+import QtQuick
+import Kesto
+
+/*! The wrist with a picture of its class. */
+TextLine {
+    id: cell
+
+    Icon {
+        name: cell.line.value ?? ""
+        size: Tokens.icon
+    }
+}

@@ -1,0 +1,154 @@
+import QtQuick
+import Kesto
+
+/*!
+    One line of a table, a header, a row or a footer, as its model tells it. A row of one feature is drawn by the file that
+    \a cell names, which gets this line as its \c line and reads what it shows from \a value. A row's name as an anchor is
+    "row/<section>/<row>".
+*/
+Item {
+    id: line
+
+    required property int index
+    required property int type
+    required property int section
+    required property int row
+    required property bool isFirst
+    required property bool isLast
+    required property int kind
+    required property string title
+    required property string subtitle
+    required property string detail
+    required property string image
+    required property int accessory
+    required property bool checked
+    required property bool on
+    required property bool selected
+    required enabled
+    required property bool selectable
+    required property bool destructive
+    required property bool struckThrough
+    required property bool canDelete
+    required property bool canMove
+    required property string text
+    required property string placeholder
+    required property string unit
+    required property int keyboard
+    required property var color
+    required property var badges
+    required property string cell
+    required property var value
+    required property var picker
+
+    /*! The RowTable that shows this line; untyped, because that type needs this one. */
+    required property var table
+    readonly property TableViewController controller: table.controller
+    readonly property bool isRow: type === TableModel.Row
+    readonly property bool editing: controller.editing
+    readonly property bool current: isRow && ListView.isCurrentItem && table.keyboardShown
+    readonly property Item content: loader.item as Item
+    readonly property alias deleteShown: swipe.open
+    /*! Lines keep their place and change their nature when a section is replaced. */
+    readonly property string source: {
+        if (!isRow)
+            return "HeaderLine.qml";
+        switch (kind) {
+        case TableRow.Editable: return "FieldLine.qml";
+        case TableRow.Editor: return "EditorLine.qml";
+        case TableRow.Switch: return "SwitchLine.qml";
+        case TableRow.Picker: return "PickerLine.qml";
+        case TableRow.Picture: return "PictureLine.qml";
+        case TableRow.Custom: return ViewLocator.file(cell);
+        default: return "TextLine.qml";
+        }
+    }
+    /*! A section without a header keeps away from the one before it. */
+    readonly property real gapAbove: isRow && isFirst && index > 0
+        && controller.table.data(controller.table.index(index - 1, 0), Qt.UserRole) === TableModel.Row ? Tokens.wide : 0
+    /*! The title's colour: its meaning where it has one. */
+    readonly property var ink: color !== undefined ? color
+        : kind === TableRow.Button ? Tokens.colors.accentText : Tokens.colors.text
+    property real lift: 0
+
+    /*! As by a touch: selects the row, or puts the cursor into its field. */
+    function activate(): void {
+        if (!isRow || !enabled)
+            return;
+        if (kind === TableRow.Switch)
+            (content as SwitchRow).activated();
+        else if (kind === TableRow.Editable || kind === TableRow.Editor || kind === TableRow.Picker)
+            content.forceActiveFocus(Qt.TabFocusReason);
+        else if (selectable)
+            controller.selectRow(section, row);
+        else if (accessory === TableRow.CheckButton || accessory === TableRow.InfoButton)
+            controller.touchAccessory(section, row);
+    }
+    function remove(): void {
+        if (canDelete)
+            controller.deleteRowByUser(section, row);
+    }
+    function closeDelete(): void {
+        swipe.open = false;
+    }
+    function bareDelete(): void {
+        if (canDelete)
+            swipe.open = true;
+    }
+
+    width: ListView.view ? ListView.view.width : 320
+    implicitHeight: loader.implicitHeight + gapAbove
+    height: implicitHeight
+    objectName: isRow ? "row/" + section + "/" + row : ""
+    z: lift !== 0 ? 2 : 0
+    transform: Translate { y: line.lift }
+
+    IconButton {
+        id: minus
+
+        x: line.table.inset
+        anchors.verticalCenter: swipe.verticalCenter
+        visible: line.isRow && line.editing && line.canDelete
+        picture: "minus_circle"
+        color: Tokens.colors.destructive
+        name: Texts.localized("Delete") + " " + line.title
+        activeFocusOnTab: false
+        onClicked: swipe.open = !swipe.open
+    }
+    SwipeArea {
+        id: swipe
+
+        y: line.gapAbove
+        x: line.table.inset + (minus.visible ? minus.width : 0)
+        width: line.width - x - line.table.inset - (handle.visible ? handle.width : 0)
+        height: loader.implicitHeight
+        allowed: line.isRow && line.canDelete
+        onOpened: line.table.deleteShown(line)
+        onDeleteRequested: line.remove()
+
+        Loader {
+            id: loader
+
+            width: parent.width
+            focus: true
+        }
+    }
+    ReorderHandle {
+        id: handle
+
+        anchors.right: parent.right
+        anchors.rightMargin: line.table.inset
+        anchors.verticalCenter: swipe.verticalCenter
+        visible: line.isRow && line.editing && line.canMove
+        name: line.title
+        onLifted: line.table.lifted(line)
+        onCarried: by => line.table.carried(line, by)
+        onDropped: line.table.dropped(line)
+        onStepped: by => line.table.stepped(line, by)
+    }
+    function draw(): void {
+        loader.setSource(source.length > 0 ? source : "TextLine.qml", { line: line });
+    }
+
+    onSourceChanged: draw()
+    Component.onCompleted: draw()
+}

@@ -1,0 +1,128 @@
+import QtQuick
+import Kesto
+
+/*!
+    Everything in the window, from the back to the front: the root screen, presented screens, popovers, the progress
+    indicator, an alert, the lock. Whatever is in front takes the keys and the touches from what is behind.
+    Escape goes back, Ctrl+M opens the menu.
+*/
+FocusScope {
+    id: shell
+
+    required property AppWindow appWindow
+    required property AlertCenter alertCenter
+    required property ProgressIndicator progress
+    readonly property bool locked: appWindow.lockScreen !== null
+    readonly property bool asked: alertCenter.current !== null
+    readonly property bool popped: appWindow.popovers.length > 0
+    readonly property bool presenting: appWindow.presentedViewControllers.length > 0
+    /*! What had the keys before something came in front; they return to it. */
+    property Item focusBefore: null
+
+    function toggleMenu(): void {
+        const menu = appWindow.rootViewController as SideMenuContainer;
+        const split = appWindow.rootViewController as SplitViewController;
+        if (menu)
+            menu.menuOpen = !menu.menuOpen;
+        else if (split && split.masterHidden)
+            split.menuPopoverOpen = !split.menuPopoverOpen;
+    }
+    function cover(covered: bool): void {
+        if (covered) {
+            focusBefore = Window.activeFocusItem;
+            return;
+        }
+        const item = focusBefore;
+        focusBefore = null;
+        if (item && item.visible && item.enabled)
+            item.forceActiveFocus(Qt.OtherFocusReason);
+        else if (presenting)
+            presented.forceActiveFocus(Qt.OtherFocusReason);
+        else
+            root.forceActiveFocus(Qt.OtherFocusReason);
+    }
+
+    onWidthChanged: appWindow.size = Qt.size(width, height)
+    onHeightChanged: appWindow.size = Qt.size(width, height)
+    onAskedChanged: if (!asked && !locked) cover(false)
+    onPoppedChanged: if (!popped && !asked && !locked) cover(false)
+    onPresentingChanged: if (!presenting && !asked && !locked) root.forceActiveFocus(Qt.OtherFocusReason)
+    onLockedChanged: if (!locked) cover(false)
+
+    Keys.onEscapePressed: event => event.accepted = !asked && !locked && appWindow.back()
+    Keys.onBackPressed: event => event.accepted = !asked && !locked && appWindow.back()
+
+    Background {
+        anchors.fill: parent
+        picture: shell.appWindow.backgroundImage.length > 0 ? shell.appWindow.backgroundImage : "background"
+    }
+    FocusScope {
+        id: behind
+
+        anchors.fill: parent
+        focus: true
+        enabled: !shell.locked && !shell.asked && !shell.progress.visible
+
+        FocusScope {
+            id: screens
+
+            anchors.fill: parent
+            focus: true
+            enabled: !shell.popped
+
+            Swap {
+                id: root
+
+                anchors.fill: parent
+                focus: true
+                enabled: !shell.presenting
+                visible: !presented.covering
+                controller: shell.appWindow.rootViewController
+            }
+            PresentedLayer {
+                id: presented
+
+                anchors.fill: parent
+                appWindow: shell.appWindow
+            }
+        }
+        PopoverLayer {
+            anchors.fill: parent
+            appWindow: shell.appWindow
+            root: screens
+        }
+    }
+    ProgressOverlay {
+        anchors.fill: parent
+        visible: shell.progress.visible
+        text: shell.progress.text
+    }
+    AlertLayer {
+        id: alerts
+
+        anchors.fill: parent
+        enabled: !shell.locked
+        appWindow: shell.appWindow
+        alertCenter: shell.alertCenter
+        root: behind
+    }
+    Swap {
+        id: lock
+
+        anchors.fill: parent
+        visible: shell.locked
+        controller: shell.appWindow.lockScreen
+        onPageChanged: if (page) page.forceActiveFocus(Qt.OtherFocusReason)
+
+        MouseArea {
+            anchors.fill: parent
+            z: -1
+            onWheel: {}
+        }
+    }
+    Shortcut {
+        sequence: "Ctrl+M"
+        enabled: behind.enabled && !shell.presenting && !shell.popped
+        onActivated: shell.toggleMenu()
+    }
+}

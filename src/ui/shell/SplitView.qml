@@ -1,0 +1,17 @@
+import QtQuick
+import Kesto
+
+/*! The tablet's arrangement: the menu beside a screen; in portrait it comes in over it. */
+Drawer {
+    id: view
+
+    required property SplitViewController controller
+
+    docked: !controller.masterHidden
+    panelWidth: Math.min(Math.round(Tokens.masterWidth * Tokens.pictureScale), width / 2)
+    panelName: Texts.localized("Menu")
+    open: controller.menuPopoverOpen
+    mainController: controller.detail
+    panelController: controller.master
+    onOpenRequested: open => controller.menuPopoverOpen = open
+}

@@ -1,0 +1,104 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kesto
+
+/*!
+    One line of text. Enter and leaving the field commit what was typed; Escape brings back what was there.
+    The text that is shown is \a value until the user types.
+*/
+T.TextField {
+    id: control
+
+    /*! What the field holds outside of an edit. */
+    property string value
+    /*! For those who do not see the label beside it. */
+    property string name
+    property bool plain: false
+    property bool editing: false
+    readonly property bool dirty: editing && text !== value
+
+    /*! An edit ended with this text; comes once an edit, also when nothing was changed. */
+    signal committed(string text)
+    signal began
+    /*! The field has nothing more to do with the keys. */
+    signal finished
+
+    function commit(): void {
+        if (!editing)
+            return;
+        editing = false;
+        committed(text);
+        text = Qt.binding(() => control.value);
+    }
+    function revert(): void {
+        editing = false;
+        text = Qt.binding(() => control.value);
+    }
+
+    text: value
+    font.family: Tokens.family
+    font.pixelSize: Tokens.textBody
+    color: enabled ? Tokens.colors.text : Tokens.colors.textDisabled
+    placeholderTextColor: Tokens.colors.textQuiet
+    selectionColor: Tokens.colors.accent
+    selectedTextColor: Tokens.colors.accentInk
+    selectByMouse: true
+    verticalAlignment: TextInput.AlignVCenter
+    implicitWidth: Math.max(contentWidth, hint.implicitWidth) + leftPadding + rightPadding + Tokens.half
+    implicitHeight: Math.max(plain ? 0 : Tokens.rowHeight, contentHeight + topPadding + bottomPadding)
+    leftPadding: plain ? 0 : Tokens.gap
+    rightPadding: plain ? 0 : Tokens.gap
+    topPadding: Tokens.half
+    bottomPadding: Tokens.half
+    activeFocusOnTab: true
+
+    Accessible.role: Accessible.EditableText
+    Accessible.name: name.length > 0 ? name : placeholderText
+
+    onTextEdited: editing = true
+    onActiveFocusChanged: {
+        if (activeFocus) {
+            editing = true;
+            selectAll();
+            began();
+        } else {
+            deselect();
+            commit();
+        }
+    }
+    Keys.onReturnPressed: finishEdit()
+    Keys.onEnterPressed: finishEdit()
+    Keys.onEscapePressed: {
+        revert();
+        finished();
+    }
+
+    function finishEdit(): void {
+        commit();
+        finished();
+    }
+
+    Label {
+        id: hint
+
+        x: control.leftPadding
+        width: control.width - control.leftPadding - control.rightPadding
+        height: control.height
+        visible: control.length === 0 && control.preeditText.length === 0
+        text: control.placeholderText
+        color: control.placeholderTextColor
+        font: control.font
+        wrapMode: Text.NoWrap
+        elide: Text.ElideRight
+        horizontalAlignment: control.effectiveHorizontalAlignment
+        verticalAlignment: Text.AlignVCenter
+    }
+
+    background: Rectangle {
+        visible: !control.plain
+        radius: Tokens.smallRadius
+        color: Tokens.colors.field
+        border.width: control.activeFocus ? Tokens.focusWidth : 0
+        border.color: Tokens.colors.focus
+    }
+}

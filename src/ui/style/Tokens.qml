@@ -1,0 +1,61 @@
+pragma Singleton
+
+import QtQuick
+import Kesto
+
+/*! Every colour, size, font and duration of the interface. Nothing else in the module states one. */
+QtObject {
+    id: tokens
+
+    readonly property Theme colors: Appearance.dark ? dark : light
+    readonly property Theme light: LightTheme {}
+    readonly property Theme dark: DarkTheme {}
+
+    // The 8-point grid
+    readonly property int half: 4
+    readonly property int unit: 8
+    readonly property int gap: 12
+    readonly property int margin: 16
+    readonly property int wide: 24
+    readonly property int huge: 32
+
+    readonly property int rowHeight: 44
+    readonly property int barHeight: 44
+    readonly property int radius: 12
+    readonly property int smallRadius: 8
+    readonly property int hairline: 1
+    readonly property int focusWidth: 2
+
+    /*! The widest column of text and rows that still reads well. */
+    readonly property int readableWidth: 640
+    readonly property int menuWidth: 288
+    readonly property int masterWidth: 320
+    readonly property int popoverWidth: 360
+    readonly property int dialogWidth: 300
+
+    // Pictures grow with the text, but less
+    readonly property real pictureScale: 1 + (textScale - 1) * 0.5
+    readonly property int icon: Math.round(24 * pictureScale)
+    readonly property int smallIcon: Math.round(18 * pictureScale)
+    readonly property int tinyIcon: Math.round(14 * pictureScale)
+    readonly property int largeIcon: Math.round(48 * pictureScale)
+
+    // Type
+    readonly property real textScale: Appearance.textScale
+    readonly property string family: Appearance.fontFamily
+    readonly property int textCaption: Math.round(12 * textScale)
+    /*! The largest of tabs, which have little room. */
+    readonly property int textOfTabs: 15
+    readonly property int textSmall: Math.round(14 * textScale)
+    readonly property int textBody: Math.round(16 * textScale)
+    readonly property int textTitle: Math.round(18 * textScale)
+    readonly property int textLarge: Math.round(22 * textScale)
+    readonly property int textHuge: Math.round(34 * textScale)
+
+    // Motion
+    readonly property int quick: Appearance.motion ? 120 : 0
+    readonly property int normal: Appearance.motion ? 200 : 0
+    readonly property int slow: Appearance.motion ? 240 : 0
+    /*! One turn of what turns while the program works; it stands still when motion is off. */
+    readonly property int turn: 1200
+}

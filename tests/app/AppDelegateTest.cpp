@@ -1,0 +1,258 @@
+#include "app/AppFixture.h"
+
+#include "app/ScreenFactory.h"
+#include "components/BKPasscodeViewController.h"
+#include "components/NavigationController.h"
+#include "components/SideMenuContainer.h"
+#include "import/UpdatingDatabaseViewController.h"
+#include "platform/PropertyList.h"
+
+namespace kesto::test
+{
+
+namespace
+{
+
+class LaunchTest : public AppFixture
+{
+protected:
+    [[nodiscard]] static UpdatingDatabaseViewController *waitScreen()
+    {
+        return qobject_cast<UpdatingDatabaseViewController *>(window().presentedViewControllers().value(0));
+    }
+
+    [[nodiscard]] static BKPasscodeViewController *lock()
+    {
+        auto *stack = qobject_cast<NavigationController *>(window().lockScreen());
+        return stack ? qobject_cast<BKPasscodeViewController *>(stack->topViewController()) : nullptr;
+    }
+    static void enter(const QList<int> &digits)
+    {
+        for (const int digit : digits)
+            lock()->digit(digit);
+        turnEventLoop();
+    }
+};
+
+TEST_F(LaunchTest, RegistersTheDefaultsThatApplyWhileNothingIsStored)
+{
+    defaults().setInteger(1, Keys::kSystemKey);
+    launch();
+    EXPECT_EQ(defaults().integerForKey(Keys::kSystemKey), 1) << "what is stored holds";
+    EXPECT_EQ(defaults().valueForKey(Keys::kLangluageKey), QVariant(0LL));
+    EXPECT_EQ(defaults().valueForKey(Keys::kUseICloudKey), QVariant(true));
+    const QVariantMap portions = defaults().valueForKey(Keys::kWaterWalskey).toMap();
+    QStringList amounts;
+    for (const QVariant &amount : portions)
+        amounts.append(amount.toString());
+    EXPECT_EQ(portions.keys().join(u' '), QStringLiteral("1 2 3 4 5 6 7 8"));
+    EXPECT_EQ(amounts.join(u' '), QStringLiteral("150 300 50 250 200 300 500 1000"));
+
+    defaults().removeObjectForKey(Keys::kSystemKey);
+    EXPECT_EQ(defaults().valueForKey(Keys::kSystemKey), QVariant(0LL));
+    quit();
+    defaults().synchronize();
+    const QVariantMap stored = PropertyList::read(platform_.defaultsPath()).value().toMap();
+    EXPECT_FALSE(stored.contains(Keys::kWaterWalskey)) << "defaults are never written";
+}
+
+TEST_F(LaunchTest, FirstLaunchOfAPhoneShowsTheCalculatorUnderTheCreationOfTheRecipes)
+{
+    defaults().removeObjectForKey(Keys::kAppVersionKey);
+    launch(phone);
+    EXPECT_EQ(mainTitle(), QStringLiteral("Калькулятор веса по Кесто"));
+    EXPECT_TRUE(mainScreen()->showsMenuIcon());
+    ASSERT_NE(waitScreen(), nullptr);
+    EXPECT_EQ(waitScreen()->mode(), 0);
+    EXPECT_EQ(waitScreen()->appVersion(), QStringLiteral("1.0"));
+    EXPECT_FALSE(mainScreen()->isVisible()) << "the wait screen covers it";
+    EXPECT_FALSE(window().rootViewController()->isTransitionAnimated());
+}
+
+TEST_F(LaunchTest, ChecksTheVersionByExactComparison)
+{
+    struct Case
+    {
+        QVariant stored;
+        QString running;
+        int mode; // −1: no import
+    };
+    const QList<Case> cases{{QVariant(), QStringLiteral("1.0"), 0},
+                            {QStringLiteral("1.0"), QStringLiteral("1.0"), -1},
+                            {QStringLiteral("1.0"), QStringLiteral("1.1"), 1},
+                            {QStringLiteral("1.1"), QStringLiteral("1.0"), 1},
+                            {QStringLiteral("1.0"), QStringLiteral("1.0.0"), 1},
+                            {QString(QStringLiteral("")), QStringLiteral("1.0"), 1}};
+    for (const Case &each : cases) {
+        SCOPED_TRACE(each.stored.toString().toStdString() + " -> " + each.running.toStdString());
+        defaults().setValue(each.stored, Keys::kAppVersionKey);
+        restart(each.running);
+        launch();
+        EXPECT_EQ(waitScreen() != nullptr ? waitScreen()->mode() : -1, each.mode);
+    }
+}
+
+TEST_F(LaunchTest, AStartedDietBeginsWithTheCalendar)
+{
+    startDiet();
+    launch(phone);
+    EXPECT_EQ(mainTitle(), QStringLiteral("Календарь диеты"));
+    auto *container = qobject_cast<SideMenuContainer *>(window().rootViewController());
+    ASSERT_NE(container, nullptr);
+    EXPECT_EQ(menu().navigationController(), container->leftMenuViewController());
+    EXPECT_FALSE(container->isMenuOpen());
+    EXPECT_EQ(window().backgroundImage(), QStringLiteral("background"));
+    EXPECT_EQ(window().tintColor(), QColor::fromRgbF(0.36F, 0.36F, 0.36F));
+}
+
+TEST_F(LaunchTest, OnlyAReminderThatStartsTheProgramCountsTheBadgeDown)
+{
+    platform_.notifications().setApplicationIconBadgeNumber(7);
+    launch();
+    EXPECT_EQ(platform_.notifications().applicationIconBadgeNumber(), 7);
+
+    LocalNotification notification;
+    notification.badgeNumber = 3;
+    notification.userInfo = {{QStringLiteral("kTimerID"), true}};
+    quit();
+    launch(phone, {notification});
+    EXPECT_EQ(platform_.notifications().applicationIconBadgeNumber(), 7) << "the timer leaves it";
+
+    notification.userInfo = {{QStringLiteral("id"), QStringLiteral("row 4")}};
+    quit();
+    launch(phone, {notification});
+    EXPECT_EQ(platform_.notifications().applicationIconBadgeNumber(), 2);
+    EXPECT_EQ(alertMessage(), QString());
+}
+
+TEST_F(LaunchTest, NotificationsWhileRunningAreAlerts)
+{
+    struct Case
+    {
+        QVariantMap userInfo;
+        QString kind;
+        bool timerStays;
+    };
+    const QList<Case> cases{{{{QStringLiteral("kTimerID"), true}}, QStringLiteral("timer"), false},
+                            {{{QStringLiteral("id"), QStringLiteral("4")}}, QStringLiteral("reminder"), true},
+                            {{}, QStringLiteral("reminder"), true}};
+    launch();
+    for (const Case &each : cases) {
+        SCOPED_TRACE(each.kind.toStdString());
+        platform_.notifications().setApplicationIconBadgeNumber(5);
+        defaults().setValue(platform_.date(2024, 3, 7, 11), Keys::kTimerKey);
+        LocalNotification notification;
+        notification.fireDate = platform_.clock().now();
+        notification.alertBody = QStringLiteral("Пора выпить воды");
+        notification.badgeNumber = 9;
+        notification.userInfo = each.userInfo;
+        platform_.notifications().scheduleLocalNotification(notification);
+        LogCapture log;
+        platform_.notifications().fireFirst();
+        EXPECT_EQ(log.take(), QStringList({QStringLiteral("recive local not"), each.kind}));
+        EXPECT_EQ(defaults().valueForKey(Keys::kTimerKey).isValid(), each.timerStays);
+        EXPECT_EQ(platform_.notifications().applicationIconBadgeNumber(), 5);
+        EXPECT_EQ(alertMessage(), QStringLiteral("Пора выпить воды"));
+        EXPECT_TRUE(AlertCenter::sharedCenter().current()->title().isNull());
+        answerAlert(QStringLiteral("ОК"));
+    }
+    quit();
+    LocalNotification late;
+    late.fireDate = platform_.clock().now();
+    platform_.notifications().scheduleLocalNotification(late);
+    platform_.notifications().fireFirst();
+    EXPECT_EQ(alertMessage(), QString()) << "nobody is there any more";
+}
+
+TEST_F(LaunchTest, APasscodeLocksAtLaunchAndUntilTheRightOneIsEntered)
+{
+    launch();
+    EXPECT_EQ(window().lockScreen(), nullptr);
+    delegate_->applicationDidEnterBackground();
+    EXPECT_EQ(window().lockScreen(), nullptr);
+    quit();
+
+    defaults().setValue(QStringLiteral("0412"), Keys::kPasscodeKey);
+    defaults().removeObjectForKey(Keys::kAppVersionKey);
+    launch();
+    ASSERT_NE(lock(), nullptr) << "over the wait screen, too";
+    EXPECT_NE(waitScreen(), nullptr);
+    EXPECT_EQ(lock()->type(), BKPasscodeViewController::Type::Check);
+    EXPECT_FALSE(window().back());
+    for (int attempt = 0; attempt < 12; ++attempt) {
+        LogCapture log;
+        enter({4, 1, 2, attempt % 10});
+        EXPECT_EQ(log.take().count(QStringLiteral("FAILED")), 1);
+        ASSERT_NE(lock(), nullptr);
+        EXPECT_TRUE(lock()->isInputEnabled()) << "as often as one likes";
+    }
+    enter({0, 4, 1, 2});
+    EXPECT_EQ(window().lockScreen(), nullptr);
+
+    delegate_->applicationDidEnterBackground();
+    EXPECT_NE(lock(), nullptr);
+    delegate_->applicationWillEnterForeground();
+    EXPECT_NE(lock(), nullptr) << "to be met on the return";
+    defaults().setValue(QStringLiteral("9999"), Keys::kPasscodeKey);
+    enter({0, 4, 1, 2});
+    EXPECT_NE(lock(), nullptr);
+    enter({9, 9, 9, 9});
+    EXPECT_EQ(window().lockScreen(), nullptr);
+}
+
+TEST_F(LaunchTest, ForegroundAndTerminationWriteTheSettings)
+{
+    launch();
+    const auto onDisk = [this] {
+        return PropertyList::read(platform_.defaultsPath()).value_or(QVariant()).toMap().value(QStringLiteral("Вес"));
+    };
+    defaults().setInteger(80, QStringLiteral("Вес"));
+    delegate_->applicationWillEnterForeground();
+    EXPECT_EQ(onDisk(), QVariant(80LL));
+    defaults().setInteger(79, QStringLiteral("Вес"));
+    delegate_->applicationWillTerminate();
+    EXPECT_EQ(onDisk(), QVariant(79LL));
+}
+
+TEST_F(LaunchTest, AsksForARatingAfterADayAndTenUses)
+{
+    for (int use = 1; use < 10; ++use) {
+        launch();
+        EXPECT_EQ(alertMessage(), QString()) << use;
+        quit();
+    }
+    launch();
+    EXPECT_EQ(alertMessage(), QString()) << "ten uses, but all in one day";
+    platform_.clock().advance(86'400);
+    delegate_->applicationWillEnterForeground();
+    ASSERT_NE(AlertCenter::sharedCenter().current(), nullptr);
+    const int later = AlertCenter::sharedCenter().current()->cancelButtonIndex();
+    AlertCenter::sharedCenter().current()->answer(later);
+    platform_.clock().advance(2 * 86'400 - 1);
+    delegate_->applicationWillEnterForeground();
+    EXPECT_EQ(AlertCenter::sharedCenter().current(), nullptr);
+    platform_.clock().advance(1);
+    delegate_->applicationWillEnterForeground();
+    EXPECT_NE(AlertCenter::sharedCenter().current(), nullptr);
+}
+
+class OtherLanguageTest : public AppFixture
+{
+protected:
+    OtherLanguageTest()
+        : AppFixture({.language = QStringLiteral("de")})
+    {
+    }
+};
+
+TEST_F(OtherLanguageTest, ADeviceThatIsNotRussianStartsInEnglish)
+{
+    launch();
+    EXPECT_EQ(defaults().valueForKey(Keys::kLangluageKey), QVariant(1LL));
+    EXPECT_EQ(menu().title(), localized(QStringLiteral("Диета Кесто")));
+    EXPECT_NE(mainTitle(), QStringLiteral("Калькулятор веса по Кесто"));
+}
+
+} // namespace
+
+} // namespace kesto::test

@@ -1,0 +1,144 @@
+#include "app/Person.h"
+#include "app/Program.h"
+#include "model/Dish.h"
+#include "platform/Platform.h"
+#include "platform/UserDefaults.h"
+#include "platform/objectgraph/ManagedObjectContext.h"
+#include "store/CoreDataManager.h"
+#include "store/Keys.h"
+#include "support/LogCapture.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QQuickWindow>
+#include <QTemporaryDir>
+
+#include <algorithm>
+
+namespace kesto::test
+{
+
+namespace
+{
+
+class WindowTest : public testing::Test
+{
+protected:
+    /// A start of the program; the data stay from one to the next.
+    void start(Device device, const QSize &size)
+    {
+        program_.reset();
+        QString error;
+        program_ = Program::start({.dataFolder = root_.filePath(QStringLiteral("data")),
+                                   .resourcesFolder = QStringLiteral(KESTO_SHARE),
+                                   .language = QStringLiteral("ru"),
+                                   .device = device,
+                                   .size = size},
+                                  &error);
+        ASSERT_NE(program_, nullptr) << error.toStdString();
+        program_->view().requestActivate();
+    }
+    void TearDown() override
+    {
+        program_.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        const QStringList complaints = log_.take().filter(QStringLiteral("interface: "));
+        EXPECT_TRUE(complaints.isEmpty()) << complaints.join(u'\n').toStdString();
+    }
+    [[nodiscard]] Person person() { return Person(program_->view()); }
+
+    LogCapture log_;
+    QTemporaryDir root_;
+    std::unique_ptr<Program> program_;
+};
+
+const QString preparing = QStringLiteral("Готовим базу рецептов…");
+const QString calculator = QStringLiteral("Калькулятор веса по Кесто");
+const QString menuTitle = QStringLiteral("Диета Кесто");
+
+TEST_F(WindowTest, FirstStartToTheMenuAndBackByPointer)
+{
+    start(Device::Phone, QSize(390, 844));
+    const Person user = person();
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Indicator, preparing)) << user.view();
+    EXPECT_FALSE(user.sees(QAccessible::Heading, calculator));
+    ASSERT_TRUE(user.waitsUntilGone(QAccessible::Indicator, preparing));
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, calculator)) << user.view();
+    EXPECT_GT(CoreDataManager::sharedManager().managedObjectContext()->fetch<Dish>({}).size(), 100U);
+    EXPECT_EQ(Platform::current().userDefaults().stringForKey(Keys::kAppVersionKey), QStringLiteral("1.0"));
+
+    ASSERT_TRUE(user.touches(QAccessible::Button, QStringLiteral("Меню"))) << user.view();
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, menuTitle)) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::ListItem, QStringLiteral("Список покупок"))) << user.view();
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, QStringLiteral("Список покупок")));
+    EXPECT_TRUE(user.waitsUntilGone(QAccessible::Heading, menuTitle)) << "the menu closes by itself";
+
+    // A section that is not there yet says so and opens nothing.
+    ASSERT_TRUE(user.touches(QAccessible::Button, QStringLiteral("Меню")));
+    ASSERT_TRUE(user.touches(QAccessible::ListItem, QStringLiteral("Избранные рецепты"))) << user.view();
+    ASSERT_TRUE(user.waitsToSee(QAccessible::AlertMessage, QStringLiteral("У вас нет избранных рецептов")))
+        << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::Button, QStringLiteral("ОК")));
+    EXPECT_TRUE(user.waitsUntilGone(QAccessible::AlertMessage, QStringLiteral("У вас нет избранных рецептов")));
+
+    // On the menu's own stack, and back.
+    ASSERT_TRUE(user.touches(QAccessible::ListItem, QStringLiteral("Рецепты блюд"))) << user.view();
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, QStringLiteral("Рецепты"))) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::Button, menuTitle)) << user.view();
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, menuTitle)) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::ListItem, calculator));
+    EXPECT_TRUE(user.waitsToSee(QAccessible::Heading, calculator)) << user.view();
+
+    // The next start has nothing to prepare.
+    start(Device::Phone, QSize(390, 844));
+    EXPECT_TRUE(person().waitsToSee(QAccessible::Heading, calculator)) << person().view();
+    EXPECT_FALSE(person().sees(QAccessible::Indicator, preparing));
+}
+
+// Off until a row that the arrows choose has the focus itself: today the list keeps it, without a name.
+TEST_F(WindowTest, DISABLED_FirstStartToTheMenuAndBackByKeys)
+{
+    start(Device::Phone, QSize(390, 844));
+    const Person user = person();
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Indicator, preparing)) << user.view();
+    user.presses(Qt::Key_Escape);
+    user.presses(Qt::Key_M, Qt::ControlModifier);
+    EXPECT_TRUE(user.sees(QAccessible::Indicator, preparing)) << "it can't be left";
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, calculator)) << user.view();
+
+    user.presses(Qt::Key_M, Qt::ControlModifier);
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, menuTitle)) << user.view();
+    const QString cart = QStringLiteral("Список покупок");
+    for (int step = 0; step < 12 && user.focus() != cart; ++step)
+        user.presses(Qt::Key_Down);
+    ASSERT_EQ(user.focus().toStdString(), cart.toStdString()) << user.view();
+    user.presses(Qt::Key_Return);
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, cart)) << user.view();
+
+    user.presses(Qt::Key_M, Qt::ControlModifier);
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, menuTitle)) << user.view();
+    user.presses(Qt::Key_Escape);
+    EXPECT_TRUE(user.waitsUntilGone(QAccessible::Heading, menuTitle)) << user.view();
+    EXPECT_TRUE(user.sees(QAccessible::Heading, cart));
+}
+
+TEST_F(WindowTest, ATabletShowsTheMenuBesideItsScreens)
+{
+    start(Device::Tablet, QSize(1180, 820));
+    const Person user = person();
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, menuTitle)) << user.view();
+    EXPECT_TRUE(user.sees(QAccessible::Heading, calculator)) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::ListItem, QStringLiteral("Полезные советы"))) << user.view();
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, QStringLiteral("Полезные советы"))) << user.view();
+    EXPECT_TRUE(user.sees(QAccessible::Heading, calculator)) << "it came on the menu's own stack";
+
+    program_->view().resize(820, 1180);
+    ASSERT_TRUE(user.waitsUntilGone(QAccessible::Heading, QStringLiteral("Полезные советы"))) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::Button, menuTitle)) << user.view();
+    EXPECT_TRUE(user.waitsToSee(QAccessible::Heading, QStringLiteral("Полезные советы"))) << user.view();
+}
+
+} // namespace
+
+} // namespace kesto::test

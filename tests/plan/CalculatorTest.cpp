@@ -1,0 +1,289 @@
+#include "PlanFixture.h"
+
+#include <QAbstractItemModelTester>
+
+namespace kesto::test
+{
+namespace
+{
+
+using Input = CalculatorInput;
+
+TestPlatform::Options inLanguage(const char *code)
+{
+    TestPlatform::Options options;
+    options.language = QLatin1String(code);
+    return options;
+}
+
+/// The user opens the wheels of an input and turns them.
+void pick(CalculatorViewController &screen, Input input, const QList<int> &rows)
+{
+    const IndexPath row{0, static_cast<int>(input)};
+    if (screen.pickerOwner() != row) // open wheels above push the row down
+        screen.selectRow(0, row.row + (screen.pickerOwner() && screen.pickerOwner()->row < row.row ? 1 : 0));
+    ASSERT_EQ(screen.pickerOwner(), row);
+    for (int component = 0; component < rows.size(); ++component)
+        screen.picker()->components()[component]->select(rows[component]);
+}
+
+struct WheelCase
+{
+    Input input;
+    bool metric;
+    QList<int> rows;
+    QStringList titles;
+    double stored;
+};
+
+TEST(CalculatorWheels, StandForStoredValues)
+{
+    TestPlatform platform;
+    for (const WheelCase &each : std::initializer_list<WheelCase>{
+             {Input::Age, true, {0}, texts({"10"}), 10},
+             {Input::Age, true, {89}, texts({"99"}), 99},
+             {Input::Sex, true, {0}, texts({"Мужской"}), 0},
+             {Input::Sex, true, {1}, texts({"Женский"}), 1},
+             {Input::Weight, true, {0, 0}, texts({"40", "0"}), 40},
+             {Input::Weight, true, {20, 3}, texts({"60", "3"}), 60.3F},
+             {Input::Weight, true, {150, 9}, texts({"190", "9"}), 190.9F},
+             {Input::Weight, false, {0, 0}, texts({"100", "0"}), 45.359236},
+             {Input::Weight, false, {50, 0}, texts({"150", "0"}), 68.038854},
+             {Input::Weight, false, {300, 9}, texts({"400", "9"}), 181.845177},
+             {Input::Height, true, {0}, texts({"100"}), 100},
+             {Input::Height, true, {99}, texts({"199"}), 199},
+             {Input::Height, false, {0}, texts({"50.0"}), 127},
+             {Input::Height, false, {1}, texts({"50.5"}), 128.27},
+             {Input::Height, false, {40}, texts({"70.0"}), 177.8},
+             {Input::Height, false, {60}, texts({"80.0"}), 203.2},
+             {Input::Wrist, true, {0}, texts({"Маленькое"}), 0},
+             {Input::Wrist, true, {2}, texts({"Большое"}), 2},
+         }) {
+        const CalculatorWheels wheels(each.input, each.metric);
+        ASSERT_EQ(wheels.numberOfComponents(), each.rows.size());
+        EXPECT_FLOAT_EQ(wheels.value(each.rows), static_cast<float>(each.stored))
+            << each.titles.join(u' ').toStdString();
+        for (int component = 0; component < each.rows.size(); ++component) {
+            EXPECT_EQ(wheels.title(each.rows[component], component), each.titles[component]);
+            EXPECT_EQ(wheels.row(wheels.value(each.rows), component), each.rows[component])
+                << each.titles.join(u' ').toStdString();
+        }
+    }
+}
+
+// Every position comes back from what it stores, so opening the wheels and closing them changes nothing.
+TEST(CalculatorWheels, TurnBackToWhatWasStored)
+{
+    TestPlatform platform;
+    for (const bool metric : {true, false}) {
+        for (const Input input : {Input::Age, Input::Sex, Input::Weight, Input::Height, Input::Wrist}) {
+            const CalculatorWheels wheels(input, metric);
+            const int seconds = wheels.numberOfComponents() == 2 ? wheels.numberOfRows(1) : 1;
+            for (int row = 0; row < wheels.numberOfRows(0); ++row) {
+                for (int second = 0; second < seconds; ++second) {
+                    const float stored = wheels.value({row, second});
+                    ASSERT_EQ(wheels.row(stored, 0), row) << stored;
+                    ASSERT_EQ(seconds > 1 ? wheels.row(stored, 1) : 0, second) << stored;
+                }
+            }
+        }
+    }
+    const CalculatorWheels weight(Input::Weight, true);
+    EXPECT_EQ(weight.row(12, 0), 0) << "below the wheel";
+    EXPECT_EQ(weight.row(500, 0), 150) << "above the wheel";
+    EXPECT_EQ(weight.row(500, 1), 9);
+    EXPECT_EQ(weight.row(60.96F, 0), 21) << "the tenths carry";
+    EXPECT_EQ(weight.row(60.96F, 1), 0);
+}
+
+TEST(Calculator, ShowsTheDefaultsInBothLanguagesAndUnits)
+{
+    for (const auto &[language, metric, inputs, results, phases] :
+         std::initializer_list<std::tuple<const char *, bool, QStringList, QStringList, QStringList>>{
+             {"ru", true, texts({"30 лет", "Женский", "60.0 кг", "170.0 см", "Среднее"}),
+              texts({"20.76", "Нормальный диапазон", "62 кг", "62 кг", "-2.0 кг"}),
+              texts({"2 дн.", "-14 дн.", "-20 дн."})},
+             {"ru", false, texts({"30 лет", "Женский", "132.3 lbs", "66.9 ″", "Среднее"}),
+              texts({"20.76", "Нормальный диапазон", "137 lbs", "137 lbs", "-4.4 lbs"}),
+              texts({"2 дн.", "-14 дн.", "-20 дн."})},
+             {"en", true, texts({"30 years", "Female", "60.0 kg", "170.0 cm", "Medium"}),
+              texts({"20.76", "Normal range", "62 kg", "62 kg", "-2.0 kg"}), texts({"2 d", "-14 d", "-20 d"})},
+             {"en", false, texts({"30 years", "Female", "132.3 lbs", "66.9 ″", "Medium"}),
+              texts({"20.76", "Normal range", "137 lbs", "137 lbs", "-4.4 lbs"}), texts({"2 d", "-14 d", "-20 d"})},
+         }) {
+        PlanFixture program(inLanguage(language), metric);
+        CalculatorViewController screen;
+        screen.loadViewIfNeeded();
+        EXPECT_EQ(details(screen, 0), inputs);
+        EXPECT_EQ(details(screen, 1), results);
+        EXPECT_EQ(details(screen, 2), phases);
+        EXPECT_EQ(screen.table()->numberOfSections(), 4);
+        EXPECT_EQ(screen.cellForRow({2, 0}).title,
+                  language == QByteArray("ru") ? QStringLiteral("1 Этап. Атака") : QStringLiteral("1 Phase. Attack"));
+        EXPECT_EQ(screen.cellForRow({2, 2}).tag, 202);
+        EXPECT_EQ(screen.cellForRow({1, 3}).tag, 103);
+        EXPECT_FALSE(program.defaults().valueForKey(QStringLiteral("Вес")).isValid()) << "looking stores nothing";
+    }
+}
+
+TEST(Calculator, AgeWordGoesByTheLastDigit)
+{
+    PlanFixture program;
+    for (const auto &[age, word] : std::initializer_list<std::pair<QVariant, const char *>>{{20, "лет"},
+                                                                                            {21, "год"},
+                                                                                            {22, "года"},
+                                                                                            {24, "года"},
+                                                                                            {25, "лет"},
+                                                                                            {30.0, "лет"},
+                                                                                            {31.0F, "год"},
+                                                                                            {11, "год"},
+                                                                                            {12, "года"},
+                                                                                            {14, "года"},
+                                                                                            {15, "лет"},
+                                                                                            {99, "лет"},
+                                                                                            {1, "лет"}})
+        EXPECT_EQ(CalculatorViewController::agePrefixForValue(age), QString::fromUtf8(word)) << age.toInt();
+}
+
+TEST(Calculator, AgeWordIsAlwaysTheSameInEnglish)
+{
+    PlanFixture program(inLanguage("en"));
+    for (const int age : {21, 22, 30})
+        EXPECT_EQ(CalculatorViewController::agePrefixForValue(age), QStringLiteral("years"));
+}
+
+TEST(Calculator, StoresPicksAndForgetsTheWantedWeight)
+{
+    PlanFixture program;
+    {
+        CalculatorViewController screen;
+        QAbstractItemModelTester tester(screen.table(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+        screen.loadViewIfNeeded();
+        screen.textFieldDidEndEditing(CalculatorViewController::wantedWeightTag, QStringLiteral("55"));
+        screen.textFieldDidEndEditing(200, QStringLiteral("9"));
+        EXPECT_EQ(screen.wantedWeight(), 55);
+        EXPECT_EQ(screen.period1(), 9);
+
+        pick(screen, Input::Weight, {60, 5});
+        EXPECT_EQ(screen.table()->numberOfRowsInSection(0), 6);
+        EXPECT_EQ(screen.wantedWeight(), screen.idealWeidht());
+        pick(screen, Input::Sex, {0});
+        EXPECT_EQ(screen.pickerIndexPath(), (IndexPath{0, 2}));
+        pick(screen, Input::Height, {80});
+        pick(screen, Input::Age, {11});
+        // The wheels weigh the new body against the weight that was wanted for the old one; only then it changes.
+        EXPECT_EQ(details(screen, 0), texts({"21 год", "Мужской", "100.5 кг", "180.0 см", "Среднее"}));
+        EXPECT_EQ(screen.idealWeidht(), 75);
+        EXPECT_EQ(screen.wantedWeight(), 75);
+        screen.calculateDiet();
+        EXPECT_EQ(screen.difWeight(), 25.5F);
+        EXPECT_EQ(screen.period1(), 6) << "a calculation ends a hand-edited length";
+
+        pick(screen, Input::Wrist, {2});
+        EXPECT_EQ(screen.handType(), 2);
+        EXPECT_EQ(screen.idealWeidht(), 81);
+        EXPECT_EQ(details(screen, 0)[4], QStringLiteral("Большое"));
+        screen.selectRow(0, static_cast<int>(Input::Wrist));
+        EXPECT_FALSE(screen.hasInlinePicker()) << "the same row closes its wheels";
+    }
+    program.restart();
+    EXPECT_EQ(program.defaults().valueForKey(QStringLiteral("Окружность запястья")).toFloat(), 2);
+    EXPECT_EQ(program.defaults().valueForKey(QStringLiteral("Пол")), QVariant(0LL));
+    CalculatorViewController again;
+    again.loadViewIfNeeded();
+    EXPECT_EQ(details(again, 0), texts({"21 год", "Мужской", "100.5 кг", "180.0 см", "Среднее"}))
+        << "the wrist starts at its middle";
+    EXPECT_EQ(again.wantedWeight(), 75);
+}
+
+TEST(Calculator, OpensTheWheelsWhereTheValuesAre)
+{
+    PlanFixture program({}, false);
+    program.defaults().setFloat(68.038854F, QStringLiteral("Вес"));
+    CalculatorViewController screen;
+    screen.loadViewIfNeeded();
+    screen.selectRow(0, static_cast<int>(Input::Weight));
+    EXPECT_EQ(screen.picker()->selectedRow(0), 50);
+    EXPECT_EQ(screen.picker()->selectedRow(1), 0);
+    screen.picker()->components()[1]->select(5);
+    EXPECT_FLOAT_EQ(program.defaults().floatForKey(QStringLiteral("Вес")), 150.5F * 0.45359236F);
+    EXPECT_EQ(details(screen, 0)[2], QStringLiteral("150.5 lbs"));
+    screen.selectRow(0, static_cast<int>(Input::Height) + 1);
+    EXPECT_EQ(screen.picker()->components().size(), 1);
+    EXPECT_EQ(screen.picker()->components()[0]->titles().value(screen.picker()->selectedRow(0)),
+              QStringLiteral("67.0"));
+}
+
+struct EditCase
+{
+    const char *text;
+    float wanted;
+    int length;
+    const char *shown;
+};
+
+TEST(Calculator, TakesWhateverIsTypedIntoItsFields)
+{
+    PlanFixture program;
+    CalculatorViewController screen;
+    screen.loadViewIfNeeded();
+    for (const EditCase &each :
+         std::initializer_list<EditCase>{{"58", 58, 58, "58"},
+                                         {"58.5", 58.5F, 58, "58"},
+                                         {"58,5", 58.5F, 58, "58"},
+                                         {"12 days", 12, 12, "12"},
+                                         {"", 62, 1, "1"},
+                                         {"0", 62, 1, "1"},
+                                         {"text", 62, 1, "1"},
+                                         {"-5", -5, 1, "1"},
+                                         {"0.9", 0.9F, 1, "1"},
+                                         {"36500", 36500, 36500, "36500"},
+                                         {"36501", 36501, 36500, "36500"},
+                                         {"99999999999999", 99999999999999.0F, 36500, "36500"}}) {
+        screen.endEditingText(1, 3, QString::fromUtf8(each.text));
+        EXPECT_EQ(screen.wantedWeight(), each.wanted) << each.text;
+        EXPECT_EQ(screen.difWeight(), 60 - each.wanted) << each.text;
+        for (int row = 0; row < 3; ++row)
+            screen.endEditingText(2, row, QString::fromUtf8(each.text));
+        EXPECT_EQ(screen.table()->rowAt({2, 0}).text, QString::fromUtf8(each.shown));
+        EXPECT_EQ(screen.period1(), each.length) << each.text;
+        EXPECT_EQ(screen.period2(), each.length) << each.text;
+        EXPECT_EQ(screen.period3(), each.length) << each.text;
+    }
+    EXPECT_EQ(screen.wantedWeight(), 99999999999999.0F) << "lengths do not touch the weight";
+}
+
+TEST(Calculator, TakesATypedWeightAsKilogramsInPoundsToo)
+{
+    PlanFixture program({}, false);
+    CalculatorViewController screen;
+    screen.loadViewIfNeeded();
+    screen.endEditingText(1, 3, QStringLiteral("137"));
+    EXPECT_EQ(screen.wantedWeight(), 62) << "a field that was left as it was is no edit";
+    screen.endEditingText(1, 3, QStringLiteral("50"));
+    EXPECT_EQ(screen.wantedWeight(), 50);
+    EXPECT_EQ(screen.cellForRow({1, 3}).text, QStringLiteral("110"));
+    EXPECT_EQ(screen.difWeight(), 10);
+    EXPECT_EQ(screen.period1(), 4);
+}
+
+TEST(Calculator, BarFollowsEveryEdit)
+{
+    PlanFixture program(inLanguage("en"));
+    CalculatorViewController screen;
+    screen.loadViewIfNeeded();
+    const auto bar = [&] {
+        QStringList dates;
+        for (const QVariant &span : screen.table()->rowAt({2, 3}).value.toList())
+            dates.append(span.toMap()[QStringLiteral("dates")].toString());
+        return dates;
+    };
+    EXPECT_EQ(bar(), texts({"7 Mar – 8 Mar", "9 Mar – …"}));
+    screen.endEditingText(1, 3, QStringLiteral("55"));
+    EXPECT_EQ(bar(), texts({"7 Mar – 9 Mar", "10 Mar – 13 Apr", "14 Apr – 2 Jun", "3 Jun – …"}));
+    screen.endEditingText(2, 1, QStringLiteral("1"));
+    EXPECT_EQ(bar(), texts({"7 Mar – 9 Mar", "10 Mar", "11 Mar – 29 Apr", "30 Apr – …"}));
+}
+
+} // namespace
+} // namespace kesto::test

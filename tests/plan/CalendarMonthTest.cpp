@@ -1,0 +1,148 @@
+#include "PlanFixture.h"
+
+#include "model/JornalDay.h"
+#include "objectgraph/StatementLog.h"
+
+#include <QAbstractItemModelTester>
+
+namespace kesto::test
+{
+namespace
+{
+
+TEST(CalendarMonth, ShowsWholeWeeksFromTheUsersFirstWeekday)
+{
+    for (const auto &[zone, firstWeekday, month, first, weeks] :
+         {std::tuple("Europe/Berlin", Qt::Monday, QDate(2024, 3, 31), QDate(2024, 2, 26), 5),
+          std::tuple("Europe/Berlin", Qt::Sunday, QDate(2024, 3, 1), QDate(2024, 2, 25), 6),
+          std::tuple("Europe/Berlin", Qt::Monday, QDate(2024, 10, 1), QDate(2024, 9, 30), 5),
+          std::tuple("America/New_York", Qt::Sunday, QDate(2024, 11, 3), QDate(2024, 10, 27), 5),
+          std::tuple("America/Sao_Paulo", Qt::Sunday, QDate(2018, 11, 4), QDate(2018, 10, 28), 5),
+          std::tuple("Asia/Kolkata", Qt::Monday, QDate(2027, 2, 1), QDate(2027, 2, 1), 4),
+          std::tuple("Asia/Tehran", Qt::Saturday, QDate(2024, 6, 15), QDate(2024, 6, 1), 5)}) {
+        TestPlatform::Options options;
+        options.timeZone = zone;
+        options.firstWeekday = firstWeekday;
+        PlanFixture program(options);
+        CalendarMonth model;
+        model.showMonth(month);
+        ASSERT_EQ(model.weeks(), weeks) << month.toString().toStdString();
+        ASSERT_EQ(model.rowCount(), weeks * 7);
+        for (int i = 0; i < model.cells().size(); ++i) {
+            const CalendarCell &cell = model.cells()[i];
+            EXPECT_EQ(cell.day, first.addDays(i));
+            EXPECT_EQ(cell.date, program.calendar().startOfDay(first.addDays(i)));
+            EXPECT_EQ(cell.otherMonth, cell.day.month() != month.month());
+            EXPECT_EQ(model.indexOf(cell.date), i) << "no day twice, whatever the clocks do";
+        }
+    }
+}
+
+TEST(CalendarMonth, NumbersWeekdays)
+{
+    // Sunday is 1: (1 + first weekday − 1) mod 7, and so on.
+    for (const auto &[firstWeekday, numbers] : {std::pair(Qt::Sunday, QList<int>{1, 2, 3, 4, 5, 6, 0}),
+                                                std::pair(Qt::Monday, QList<int>{3, 4, 5, 6, 0, 1, 2})}) {
+        TestPlatform::Options options;
+        options.firstWeekday = firstWeekday;
+        options.language = QStringLiteral("en");
+        PlanFixture program(options);
+        CalendarMonth model;
+        model.showMonth(QDate(2024, 3, 1));
+        QList<int> found;
+        for (int i = 0; i < 7; ++i)
+            found.append(model.index(i).data(CalendarMonth::WeekdayRole).toInt());
+        EXPECT_EQ(found, numbers);
+        EXPECT_EQ(model.weekdayTitles()[0], firstWeekday == Qt::Sunday ? QStringLiteral("Sun") : QStringLiteral("Mon"));
+        EXPECT_EQ(model.title(), QStringLiteral("March 2024"));
+        EXPECT_EQ(model.previousTitle(), QStringLiteral("February 2024"));
+    }
+}
+
+TEST(CalendarMonth, CellsShowPhaseKindJournalAndToday)
+{
+    PlanFixture program;
+    program.storePlan(program.dayStart(2024, 3, 5), 3, 10, 10);
+    const auto record = [&](int day, const char *kind) -> DietDay & {
+        DietDay &made = DietDay::dietDatWithDate(program.dayStart(2024, 3, day), program.context());
+        if (kind != nullptr)
+            made.setValueForKey(true, QLatin1String(kind));
+        return made;
+    };
+    record(5, "chB");
+    record(8, "bO");
+    record(18, "feast");
+    record(9, "chB").setBO(true); // no screen makes this
+    record(10, "bO").setFeast(true);
+    record(11, nullptr).setFeast(false);
+    program.context().insert<JornalDay>().setDay(&record(7, nullptr));
+    // A day that a step of 86,400 seconds left beside its midnight belongs to no cell.
+    DietDay::dietDatWithDate(program.dayStart(2024, 3, 12).addSecs(3600), program.context()).setChB(true);
+    ASSERT_TRUE(program.context().save());
+
+    CalendarMonth model;
+    QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    model.showMonth(QDate(2024, 3, 1));
+    const auto cell = [&](int day) { return model.cells()[model.indexOf(program.dayStart(2024, 3, day))]; };
+    for (const auto &[day, period, kind] : std::initializer_list<std::tuple<int, int, const char *>>{{4, -1, ""},
+                                                                                                     {5, 0, "Ч/Б"},
+                                                                                                     {7, 0, ""},
+                                                                                                     {8, 1, "Б/О"},
+                                                                                                     {9, 1, "Ч/Б"},
+                                                                                                     {10, 1, "Б/О"},
+                                                                                                     {11, 1, ""},
+                                                                                                     {12, 1, ""},
+                                                                                                     {17, 1, ""},
+                                                                                                     {18, 2, "Пир"},
+                                                                                                     {27, 2, ""},
+                                                                                                     {28, 3, ""}}) {
+        EXPECT_EQ(cell(day).dietPeriod, period) << day;
+        EXPECT_EQ(cell(day).kind, QString::fromUtf8(kind)) << day;
+        EXPECT_EQ(cell(day).hasJornal, day == 7) << day;
+        EXPECT_EQ(cell(day).today, day == 7) << day;
+        EXPECT_EQ(cell(day).enabled, day >= 5) << day;
+    }
+    const auto data = [&](int day, int role) {
+        return model.index(model.indexOf(program.dayStart(2024, 3, day))).data(role);
+    };
+    EXPECT_EQ(data(4, CalendarMonth::ColorRole).value<QColor>().alpha(), 0);
+    EXPECT_EQ(data(5, CalendarMonth::ColorRole).value<QColor>().name(), QStringLiteral("#d23f3f"));
+    EXPECT_EQ(data(5, CalendarMonth::AccessibleNameRole), QStringLiteral("5 марта 2024, Атака, Ч/Б"));
+
+    // From month to month with 4, 5 and 6 weeks the model tells its changes right.
+    for (const QDate &month : {QDate(2027, 2, 1), QDate(2024, 9, 1), QDate(2024, 3, 1)})
+        model.showMonth(month);
+}
+
+TEST(CalendarMonth, ComesWithTheSameFewStatementsWhateverItHolds)
+{
+    QList<qsizetype> counts;
+    for (const int years : {0, 1, 10}) {
+        StatementLog log;
+        PlanFixture program;
+        const QDate first(2020, 1, 1);
+        program.storePlan(program.calendar().startOfDay(first), 7, 175, 250);
+        for (int i = 0; i < years * 365; ++i) {
+            auto &day = program.context().insert<DietDay>();
+            day.setDate(program.calendar().startOfDay(first.addDays(i)));
+            day.setChB(i % 2 == 0);
+            program.context().insert<JornalDay>().setDay(&day);
+        }
+        ASSERT_TRUE(program.context().save());
+        program.restart();
+        CalendarViewController screen;
+        screen.loadViewIfNeeded();
+        program.settle();
+        (void)log.take();
+        for (int i = 0; i < 48; ++i) {
+            screen.previousMonth();
+            counts.append(log.count());
+        }
+        EXPECT_EQ(screen.month()->cells()[10].hasJornal, years > 0);
+    }
+    EXPECT_LE(counts[0], 2);
+    EXPECT_THAT(counts, testing::Each(testing::Le(2)));
+}
+
+} // namespace
+} // namespace kesto::test

@@ -1,0 +1,366 @@
+#include "PlanFixture.h"
+
+#include "components/NavigationController.h"
+#include "model/Dish.h"
+#include "model/DishInDietDay.h"
+#include "model/JornalDay.h"
+#include "plan/CalendarContainerViewController.h"
+#include "plan/DietPeriodsSelector.h"
+#include "plan/PeriodSelectorViewController.h"
+
+namespace kesto::test
+{
+namespace
+{
+
+/// A plan from 5 March 2024 on: three days of Attack, then 10, then 10. Today is the 7th.
+struct Calendar7March
+{
+    explicit Calendar7March(TestPlatform::Options options = {}, bool metric = true)
+        : program(std::move(options), metric)
+    {
+        program.storePlan(program.dayStart(2024, 3, 5), 3, 10, 10);
+        open();
+    }
+
+    void open()
+    {
+        screen = std::make_unique<CalendarViewController>();
+        screen->loadViewIfNeeded();
+    }
+    void reopen()
+    {
+        screen.reset();
+        program.restart();
+        open();
+    }
+    [[nodiscard]] QDateTime march(int day) const { return program.dayStart(2024, 3, day); }
+    void touch(int day) { screen->touchCell(screen->month()->indexOf(march(day))); }
+    [[nodiscard]] DietDay *record(int day) { return DietDay::dayWithoutCreation(march(day), program.context()); }
+    [[nodiscard]] const CalendarCell &cell(int day) const
+    {
+        return screen->month()->cells()[screen->month()->indexOf(march(day))];
+    }
+    [[nodiscard]] CalFooterView &footer() { return *screen->footer(); }
+    [[nodiscard]] QStringList fields()
+    {
+        QStringList shown;
+        for (const CalFooterField *field : footer().fields())
+            shown.append(field->text());
+        return shown;
+    }
+    /// Of the visible kind buttons those that are on as their number, the others as a dot.
+    [[nodiscard]] QString kinds()
+    {
+        QString shown;
+        for (const CalKindButton *button : footer().kindButtons()) {
+            if (button->isVisible())
+                shown += button->isSelected() ? QString::number(button->tag()) : QStringLiteral(".");
+        }
+        return shown;
+    }
+
+    PlanFixture program;
+    std::unique_ptr<CalendarViewController> screen;
+};
+
+TEST(Calendar, OpensOnTodayAndSelectsFromTheStartOn)
+{
+    Calendar7March at;
+    EXPECT_EQ(at.screen->currentDate(), at.march(7));
+    EXPECT_EQ(at.screen->dateText(), QStringLiteral("07 марта"));
+    EXPECT_EQ(at.screen->periodName(), QStringLiteral("Атака"));
+    EXPECT_TRUE(at.cell(7).selected);
+    at.touch(4);
+    at.touch(1);
+    EXPECT_EQ(at.screen->currentDate(), at.march(7)) << "days before the start are disabled";
+    at.screen->touchCell(-1);
+    at.screen->touchCell(99);
+    for (const auto &[day, period, color, kinds] :
+         {std::tuple(5, "Атака", "#d23f3f", "."), std::tuple(8, "Круиз", "#95cbf9", ".."),
+          std::tuple(18, "Консолидация", "#81b74c", "..."), std::tuple(28, "Стабилизация", "#d2bd2f", "...")}) {
+        at.touch(day);
+        EXPECT_EQ(at.screen->currentDate(), at.march(day));
+        EXPECT_EQ(at.screen->periodName(), QString::fromUtf8(period));
+        EXPECT_EQ(at.screen->periodColor().name(), QLatin1String(color));
+        EXPECT_EQ(at.kinds(), QLatin1String(kinds));
+        EXPECT_TRUE(at.cell(day).selected);
+        EXPECT_EQ(at.footer().indexPath(), CalendarMonth::indexPathOf(at.screen->month()->indexOf(at.march(day))));
+    }
+    EXPECT_EQ(std::count_if(at.screen->month()->cells().begin(), at.screen->month()->cells().end(),
+                            [](const auto &cell) { return cell.selected; }),
+              1);
+    EXPECT_TRUE(at.program.days().isEmpty()) << "looking creates nothing";
+}
+
+TEST(Calendar, TurnsMonthsAndComesBack)
+{
+    Calendar7March at;
+    int endings = 0;
+    QObject::connect(at.screen.get(), &CalendarViewController::editingShouldEnd, [&] { ++endings; });
+    at.screen->nextMonth();
+    EXPECT_EQ(at.screen->month()->title(), QStringLiteral("Апрель 2024"));
+    EXPECT_EQ(at.screen->currentDate(), at.march(7)) << "the day stays";
+    for (int i = 0; i < 12; ++i)
+        at.screen->nextMonth();
+    EXPECT_EQ(at.screen->month()->title(), QStringLiteral("Апрель 2025"));
+    EXPECT_EQ(at.screen->month()->selectedIndex(), -1);
+    for (int i = 0; i < 14; ++i)
+        at.screen->previousMonth();
+    EXPECT_EQ(at.screen->month()->title(), QStringLiteral("Февраль 2024"));
+    at.screen->showToday();
+    EXPECT_TRUE(at.cell(7).selected);
+    EXPECT_EQ(endings, 28);
+}
+
+TEST(Calendar, KindsExcludeEachOtherAndEmptyDaysGo)
+{
+    Calendar7March at;
+    at.touch(8);
+    at.footer().buttonTouched(2);
+    EXPECT_EQ(at.kinds(), QStringLiteral("..")) << "a feast is not offered in Cruise";
+    EXPECT_TRUE(at.program.days().isEmpty());
+    at.footer().buttonTouched(0);
+    EXPECT_EQ(at.kinds(), QStringLiteral("0."));
+    EXPECT_EQ(at.cell(8).kind, QStringLiteral("Ч/Б"));
+    at.footer().buttonTouched(1);
+    EXPECT_EQ(at.kinds(), QStringLiteral(".1"));
+    EXPECT_EQ(at.cell(8).kind, QStringLiteral("Б/О"));
+    EXPECT_EQ(at.program.days(), texts({"2024-03-08 00:00 bO"}));
+    at.touch(18);
+    at.footer().buttonTouched(2);
+    at.reopen();
+    EXPECT_EQ(at.program.days(), texts({"2024-03-08 00:00 bO", "2024-03-18 00:00 feast"}));
+    EXPECT_EQ(at.cell(18).kind, QStringLiteral("Пир"));
+
+    at.touch(8);
+    EXPECT_EQ(at.kinds(), QStringLiteral(".1"));
+    at.footer().buttonTouched(1);
+    EXPECT_EQ(at.record(8), nullptr);
+    EXPECT_EQ(at.cell(8).kind, QString());
+    at.reopen();
+    EXPECT_EQ(at.program.days(), texts({"2024-03-18 00:00 feast"}));
+
+    // A kind that is told to be absent, as the screen of a day does, keeps the day until the kinds are written anew.
+    DietDay::dietDatWithDate(at.march(19), at.program.context()).setFeast(false);
+    at.touch(19);
+    at.footer().endEditing(1, {});
+    EXPECT_NE(at.record(19), nullptr);
+    at.footer().buttonTouched(0);
+    at.footer().buttonTouched(0);
+    EXPECT_EQ(at.record(19), nullptr);
+}
+
+TEST(Calendar, MeasuresAreStoredAsTyped)
+{
+    for (const bool metric : {true, false}) {
+        Calendar7March at({}, metric);
+        EXPECT_EQ(at.footer().fields()[0]->unit(), metric ? QStringLiteral("кг") : QStringLiteral("lbs"));
+        EXPECT_EQ(at.footer().fields()[3]->unit(), QStringLiteral("см"));
+        at.footer().endEditing(0, QStringLiteral("72,5"));
+        at.footer().endEditing(1, QStringLiteral("101.25"));
+        at.footer().endEditing(2, QStringLiteral("88 cm"));
+        at.footer().endEditing(3, QStringLiteral("1e39"));
+        EXPECT_EQ(at.record(7)->weight(), 72.5F) << "no conversion, in pounds neither";
+        EXPECT_EQ(at.record(7)->chest(), 101.25F);
+        EXPECT_EQ(at.record(7)->waist(), 88.0F);
+        EXPECT_EQ(at.record(7)->hip(), std::numeric_limits<float>::max());
+        at.footer().endEditing(3, QStringLiteral("96"));
+        at.reopen();
+        EXPECT_EQ(at.fields(), texts({"72.5", "101.25", "88", "96"}));
+        EXPECT_EQ(at.screen->currentWeight(), metric ? QStringLiteral("72.5 кг") : QStringLiteral("159.8 lbs"));
+
+        int told = 0;
+        QObject::connect(at.footer().fields()[1], &CalFooterField::textChanged, [&] { ++told; });
+        for (const char *cleared : {"0", "-4", "text", ""}) {
+            at.footer().endEditing(1, QStringLiteral("90"));
+            told = 0;
+            at.footer().endEditing(1, QString::fromUtf8(cleared));
+            EXPECT_FALSE(at.record(7)->chest().has_value()) << cleared;
+            EXPECT_GT(told, 0) << "the field shows that it is empty: " << cleared;
+        }
+        at.footer().endEditing(0, {});
+        at.footer().endEditing(2, {});
+        EXPECT_NE(at.record(7), nullptr);
+        at.footer().endEditing(3, QStringLiteral("0"));
+        EXPECT_EQ(at.record(7), nullptr) << "the last value takes the day along";
+        EXPECT_EQ(at.screen->currentWeight(), QStringLiteral("-"));
+        at.reopen();
+        EXPECT_TRUE(at.program.days().isEmpty());
+    }
+}
+
+TEST(Calendar, JournalKeepsADayThatIsEmptyOtherwise)
+{
+    Calendar7March at;
+    at.footer().endEditing(0, QStringLiteral("70"));
+    at.program.context().insert<JornalDay>().setDay(at.record(7));
+    at.footer().endEditing(0, {});
+    ASSERT_NE(at.record(7), nullptr);
+    EXPECT_TRUE(at.cell(7).hasJornal);
+}
+
+TEST(Calendar, NothingIsRecordedBeforeTheStart)
+{
+    Calendar7March at;
+    at.program.storePlan(at.march(20), 3, 10, 10);
+    at.open();
+    EXPECT_TRUE(at.screen->isDayDisabled());
+    EXPECT_TRUE(at.screen->periodName().isNull());
+    EXPECT_FALSE(at.screen->periodColor().isValid());
+    EXPECT_EQ(at.footer().activeButtonsCount(), 3);
+    at.footer().buttonTouched(0);
+    at.footer().endEditing(0, QStringLiteral("70"));
+    at.footer().openJornal();
+    at.screen->openDaySettings();
+    EXPECT_TRUE(at.program.days().isEmpty());
+    at.touch(20);
+    EXPECT_FALSE(at.screen->isDayDisabled());
+}
+
+TEST(Calendar, ListsTheDishesOfTheDayInTheirOrder)
+{
+    for (const auto &[language, names] :
+         {std::pair("ru", texts({"Каша", "Суп", "Рыба"})), std::pair("en", texts({"Porridge", "Soup", "Fish"}))}) {
+        TestPlatform::Options options;
+        options.language = QLatin1String(language);
+        Calendar7March at(options);
+        at.footer().buttonTouched(0);
+        const auto plan = [&](int order, const char *russian, const char *english) {
+            auto &dish = at.program.context().insert<Dish>();
+            dish.setNameRU(QString::fromUtf8(russian));
+            dish.setNameENG(QString::fromUtf8(english));
+            auto &planned = at.program.context().insert<DishInDietDay>();
+            planned.setDisplayOrder(order);
+            planned.setDish(&dish);
+            at.record(7)->addDishes(planned);
+        };
+        plan(2, "Рыба", "Fish");
+        plan(0, "Каша", "Porridge");
+        plan(1, "Суп", "Soup");
+        ASSERT_TRUE(at.program.context().save());
+        at.reopen();
+        EXPECT_EQ(at.screen->dishes(), names);
+        at.touch(8);
+        EXPECT_TRUE(at.screen->dishes().isEmpty());
+        at.touch(7);
+        // Planned dishes do not keep a day: they go with its last kind.
+        at.footer().buttonTouched(0);
+        EXPECT_TRUE(at.screen->dishes().isEmpty());
+        EXPECT_TRUE(at.program.days().isEmpty());
+    }
+}
+
+/// Remembers what it was told.
+class FakeDayScreen : public ViewController, public DietDayScreen
+{
+public:
+    void setDate(const QDateTime &date, int period) override
+    {
+        told.append(date.toTimeZone(QTimeZone("Europe/Berlin")).toString(QStringLiteral("MM-dd ")) +
+                    QString::number(period));
+    }
+    void setDisbledDay(bool disabled) override { disbledDay = disabled; }
+    QStringList told;
+    bool disbledDay = false;
+};
+
+TEST(Calendar, LoadsTheDayBesideItOnATablet)
+{
+    Calendar7March at;
+    auto calendar = std::make_unique<CalendarViewController>();
+    CalendarViewController &screen = *calendar;
+    screen.setTitle(QStringLiteral("Календарь"));
+    auto day = std::make_unique<FakeDayScreen>();
+    FakeDayScreen &beside = *day;
+    CalendarContainerViewController container(std::move(calendar), std::move(day));
+    EXPECT_EQ(container.title(), QStringLiteral("Календарь"));
+    screen.loadViewIfNeeded();
+    EXPECT_EQ(beside.told, texts({"03-07 0"}));
+    EXPECT_FALSE(beside.disbledDay);
+    screen.touchCell(screen.month()->indexOf(at.march(8)));
+    EXPECT_EQ(beside.told.last(), QStringLiteral("03-08 1"));
+    screen.footer()->buttonTouched(1);
+    EXPECT_EQ(beside.told.size(), 3) << "the footer's change is seen at once";
+
+    DietDay::dietDatWithDate(at.march(8), at.program.context()).setBO(false);
+    at.record(8)->setChB(true);
+    screen.dietDayDetailViewControllerDidUpdateDay();
+    EXPECT_EQ(screen.month()->cells()[screen.month()->indexOf(at.march(8))].kind, QStringLiteral("Ч/Б"));
+    EXPECT_TRUE(screen.footer()->kindButtons()[0]->isSelected());
+
+    at.program.storePlan(at.march(20), 3, 10, 10);
+    screen.updateUIForDate(at.march(7), -1);
+    EXPECT_TRUE(beside.disbledDay);
+}
+
+TEST(Calendar, OpensTheJournalAndTheDayOnThePhone)
+{
+    Calendar7March at;
+    QStringList opened;
+    auto made = std::make_unique<CalendarViewController>(CalendarScreens{
+        .jornal =
+            [&](const QDateTime &date) {
+                opened.append(QStringLiteral("jornal ") + date.toString(Qt::ISODate));
+                return std::make_unique<ViewController>();
+            },
+        .day =
+            [&](const QDateTime &date, int period, DietDayDetailViewControllerDelegate *delegate) {
+                EXPECT_NE(delegate, nullptr);
+                opened.append(QStringLiteral("day %1 ").arg(period) + date.toString(Qt::ISODate));
+                return std::make_unique<ViewController>();
+            },
+    });
+    CalendarViewController &screen = *made;
+    NavigationController navigation(std::move(made));
+    screen.loadViewIfNeeded();
+    screen.footer()->openJornal();
+    EXPECT_EQ(navigation.viewControllers().size(), 2);
+    navigation.popViewController(false);
+    screen.openDaySettings();
+    EXPECT_EQ(navigation.viewControllers().size(), 2);
+    EXPECT_EQ(opened, texts({"jornal 2024-03-06T23:00:00Z", "day 0 2024-03-06T23:00:00Z"}));
+}
+
+struct PeriodAnswer : PeriodSelectorDelegate
+{
+    void updateToPeriod(int period) override { answers.append(period); }
+    QList<int> answers;
+};
+
+TEST(PeriodSelector, AnswersTheRow)
+{
+    PlanFixture program;
+    PeriodAnswer answer;
+    PeriodSelectorViewController selector(2, &answer);
+    selector.loadViewIfNeeded();
+    QStringList titles;
+    for (int row = 0; row < 5; ++row) {
+        const TableRow &shown = selector.table()->rowAt({0, row});
+        titles.append(shown.title);
+        EXPECT_EQ(shown.accessory == TableRow::Accessory::Checkmark, row == 2);
+    }
+    for (int row = 0; row < 5; ++row)
+        selector.selectRow(0, row);
+    EXPECT_EQ(titles, texts({"Все", "Атака", "Круиз", "Консол.", "Стаб."}));
+    EXPECT_EQ(answer.answers, QList<int>({0, 1, 2, 3, 4}));
+}
+
+TEST(DietPeriodsSelector, AlwaysHoldsStabilization)
+{
+    PlanFixture program;
+    DietPeriodsSelector selector;
+    EXPECT_EQ(selector.selectedPeriods(), QStringLiteral("3"));
+    for (const auto &[touched, periods] :
+         {std::pair(0, "0, 3"), std::pair(2, "0, 2, 3"), std::pair(3, "0, 2, 3"), std::pair(1, "0, 1, 2, 3"),
+          std::pair(0, "1, 2, 3"), std::pair(4, "1, 2, 3"), std::pair(-1, "1, 2, 3")}) {
+        selector.buttonTouched(touched);
+        EXPECT_EQ(selector.selectedPeriods(), QLatin1String(periods));
+    }
+    EXPECT_EQ(selector.index(0).data(DietPeriodsSelector::ImageRole), QStringLiteral("period_0.png"));
+    EXPECT_EQ(selector.index(3).data(DietPeriodsSelector::ImageRole), QStringLiteral("period_3_s.png"));
+    EXPECT_EQ(selector.index(3).data(DietPeriodsSelector::TitleRole), QStringLiteral("Стабилизация"));
+}
+
+} // namespace
+} // namespace kesto::test

@@ -1,0 +1,209 @@
+#include "PlanFixture.h"
+
+#include "model/JornalDay.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+
+namespace kesto::test
+{
+namespace
+{
+
+/// A calculator in a program whose first day is 7 March 2024, 10:30 by the clock.
+struct Start
+{
+    explicit Start(TestPlatform::Options options = {}, bool metric = true)
+        : program(std::move(options), metric)
+        , shell(std::make_unique<TestShell>())
+        , screen(std::make_unique<CalculatorViewController>())
+    {
+        screen->loadViewIfNeeded();
+    }
+
+    [[nodiscard]] static ShownAlert *alert() { return AlertCenter::sharedCenter().current(); }
+
+    /// Opens the dialog, turns its picker to a date and presses a button.
+    void startOn(const QDateTime &date, int button = 1) const
+    {
+        screen->selectRow(CalculatorViewController::StartSection, 0);
+        ASSERT_NE(alert(), nullptr);
+        alert()->datePicker()->setDate(date);
+        alert()->answer(button);
+    }
+
+    PlanFixture program;
+    std::unique_ptr<TestShell> shell;
+    std::unique_ptr<CalculatorViewController> screen;
+};
+
+TEST(DietStart, LeadsFromAFreshProgramToTheCalendar)
+{
+    for (const auto &[language, metric, title, cancel, go, period, weight] :
+         {std::tuple("ru", true, "Начать диету с", "Отменить", "Начать", "Атака", "кг"),
+          std::tuple("ru", false, "Начать диету с", "Отменить", "Начать", "Атака", "lbs"),
+          std::tuple("en", true, "Start the diet on", "Cancel", "Start", "Attack", "kg"),
+          std::tuple("en", false, "Start the diet on", "Cancel", "Start", "Attack", "lbs")}) {
+        TestPlatform::Options options = withCloud();
+        options.language = QLatin1String(language);
+        Start start(options, metric);
+        start.screen->endEditingText(2, 1, QStringLiteral("33"));
+        start.screen->selectRow(0, 0);
+
+        start.screen->startDietIntro();
+        ASSERT_NE(Start::alert(), nullptr);
+        EXPECT_EQ(Start::alert()->title(), QString::fromUtf8(title));
+        EXPECT_EQ(Start::alert()->buttonTitles(), texts({cancel, go}));
+        EXPECT_EQ(Start::alert()->cancelButtonIndex(), 0);
+        EXPECT_EQ(Start::alert()->datePicker()->mode(), DatePicker::Mode::Date);
+        LogCapture log;
+        Start::alert()->answer(1);
+        EXPECT_THAT(log.take(), testing::Contains(QStringLiteral("start starting diet")));
+        EXPECT_EQ(Start::alert(), nullptr) << "no earlier day, no question";
+        EXPECT_FALSE(start.screen->hasInlinePicker());
+
+        const QDateTime first = start.program.dayStart(2024, 3, 7);
+        EXPECT_EQ(start.program.manager().startDietDay(), first);
+        EXPECT_EQ(start.program.days(), texts({"2024-03-07 00:00 chB", "2024-03-08 00:00 chB"}));
+        const QVariantMap &cloud = start.program.platform.cloudStore().values();
+        EXPECT_EQ(cloud[Keys::kStartDietDateKey].toDateTime(), first);
+        EXPECT_EQ(cloud[Keys::kPeriod2Key].toInt(), 33);
+        EXPECT_EQ(cloud[Keys::kIdealWidth].toFloat(), 62);
+
+        ASSERT_NE(start.shell->calendar, nullptr) << "the calendar comes by itself";
+        CalendarViewController &calendar = *start.shell->calendar;
+        EXPECT_EQ(calendar.currentDate(), first);
+        EXPECT_EQ(calendar.periodName(), QString::fromUtf8(period));
+        EXPECT_EQ(calendar.footer()->fields()[0]->unit(), QString::fromUtf8(weight));
+        EXPECT_TRUE(calendar.footer()->kindButtons()[0]->isSelected());
+
+        start.screen.reset();
+        start.shell.reset();
+        start.program.restart();
+        EXPECT_EQ(start.program.manager().startDietDay(), first);
+        EXPECT_EQ(start.program.defaults().integerForKey(Keys::kPeriod1Key), 2);
+        EXPECT_EQ(start.program.defaults().integerForKey(Keys::kPeriod2Key), 33);
+        EXPECT_EQ(start.program.defaults().integerForKey(Keys::kPeriod3Key), -20);
+        EXPECT_EQ(start.program.defaults().floatForKey(Keys::kIdealWidth), 62);
+        EXPECT_EQ(start.program.days(), texts({"2024-03-07 00:00 chB", "2024-03-08 00:00 chB"}));
+    }
+}
+
+TEST(DietStart, AsksBeforeEarlierDaysGo)
+{
+    Start start;
+    PlanFixture &program = start.program;
+    program.weigh(program.dayStart(2024, 3, 6), 80);
+    program.weigh(program.dayStart(2024, 3, 7), 79);
+    program.weigh(program.dayStart(2024, 3, 8), 78);
+
+    start.startOn(program.platform.clock().now(), 0);
+    EXPECT_FALSE(start.screen->startDiedDate().has_value());
+
+    start.startOn(program.platform.clock().now());
+    EXPECT_EQ(start.screen->startDiedDate(), program.platform.clock().now());
+    EXPECT_EQ(Start::alert(), nullptr) << "not at once";
+    QElapsedTimer waited;
+    waited.start();
+    ASSERT_TRUE(QTest::qWaitFor([] { return Start::alert() != nullptr; }));
+    EXPECT_GE(waited.elapsed(), 250); // timers may be early by a twentieth
+    EXPECT_TRUE(Start::alert()->title().isNull());
+    EXPECT_EQ(
+        Start::alert()->message(),
+        localized(QStringLiteral("Все данные внесенные до начала новго старта диеты будут удалены, начать диету?")));
+    EXPECT_EQ(Start::alert()->buttonTitles(), texts({"Отменить", "Начать"}));
+    Start::alert()->answer(0);
+    EXPECT_EQ(program.days().size(), 3);
+    EXPECT_FALSE(program.manager().startDietDay().has_value());
+    EXPECT_FALSE(start.screen->startDiedDate().has_value());
+    EXPECT_EQ(start.shell->calendar, nullptr);
+
+    start.startOn(program.platform.clock().now());
+    ASSERT_TRUE(QTest::qWaitFor([] { return Start::alert() != nullptr; }));
+    Start::alert()->answer(1);
+    EXPECT_NE(start.shell->calendar, nullptr);
+    // What lies before the picked moment goes, also the beginning of its own day; what comes later stays.
+    EXPECT_EQ(program.days(), texts({"2024-03-07 00:00 chB", "2024-03-08 00:00 chB"}));
+    EXPECT_FALSE(program.weight(program.dayStart(2024, 3, 7)).has_value());
+    EXPECT_EQ(program.weight(program.dayStart(2024, 3, 8)), 78);
+}
+
+TEST(DietStart, RestartKeepsLaterDaysAndEveryJournal)
+{
+    Start start;
+    PlanFixture &program = start.program;
+    start.startOn(program.dayStart(2024, 3, 10));
+    EXPECT_EQ(program.days(), texts({"2024-03-10 00:00 chB", "2024-03-11 00:00 chB"}));
+    auto &jornal = program.context().insert<JornalDay>();
+    jornal.setHotDay(true);
+    jornal.setDay(DietDay::dayWithoutCreation(program.dayStart(2024, 3, 10), program.context()));
+    ASSERT_TRUE(program.context().save());
+
+    // Earlier than all days: nothing is asked, the old Attack days stay marked.
+    start.startOn(program.dayStart(2024, 3, 1));
+    EXPECT_EQ(Start::alert(), nullptr);
+    EXPECT_EQ(program.days(),
+              texts({"2024-03-01 00:00 chB", "2024-03-02 00:00 chB", "2024-03-10 00:00 chB", "2024-03-11 00:00 chB"}));
+
+    // Later than some.
+    start.startOn(program.dayStart(2024, 3, 11));
+    ASSERT_TRUE(QTest::qWaitFor([] { return Start::alert() != nullptr; }));
+    Start::alert()->answer(1);
+    EXPECT_EQ(program.days(), texts({"2024-03-11 00:00 chB", "2024-03-12 00:00 chB"}));
+    start.screen.reset();
+    start.shell.reset();
+    program.restart();
+    EXPECT_EQ(program.days(), texts({"2024-03-11 00:00 chB", "2024-03-12 00:00 chB"}));
+    EXPECT_EQ(program.context().fetch<JornalDay>().size(), 1U) << "the journal's data is not touched";
+}
+
+TEST(DietStart, StepsByFixedDaysAcrossClockChanges)
+{
+    for (const auto &[year, month, day, expected] :
+         {std::tuple(2024, 3, 30, texts({"2024-03-30 00:00 chB", "2024-03-31 00:00 chB", "2024-04-01 01:00 chB"})),
+          std::tuple(2024, 10, 26, texts({"2024-10-26 00:00 chB", "2024-10-27 00:00 chB", "2024-10-27 23:00 chB"}))}) {
+        PlanFixture program;
+        CalculatorViewController screen;
+        screen.makeAttackPeriodForDate(program.dayStart(year, month, day), 3);
+        EXPECT_EQ(program.days(), expected);
+    }
+}
+
+TEST(DietStart, AttackDaysKeepWhatTheyHold)
+{
+    PlanFixture program;
+    CalculatorViewController screen;
+    const QDateTime first = program.dayStart(2024, 3, 7);
+    program.weigh(first.addSecs(86400), 71);
+    screen.makeAttackPeriodForDate(first, 0);
+    screen.makeAttackPeriodForDate(first, -3);
+    EXPECT_EQ(program.days(), texts({"2024-03-08 00:00"}));
+    screen.makeAttackPeriodForDate(first, 3);
+    EXPECT_EQ(program.days(), texts({"2024-03-07 00:00 chB", "2024-03-08 00:00 chB", "2024-03-09 00:00 chB"}));
+    EXPECT_EQ(program.weight(first.addSecs(86400)), 71);
+}
+
+TEST(DietStart, TakesDatesYearsAwayAndTheLongestAttack)
+{
+    Start start;
+    start.screen->endEditingText(2, 0, QStringLiteral("4000000000"));
+    start.startOn(start.program.dayStart(2123, 7, 1));
+    EXPECT_EQ(start.program.manager().startDietDay(), start.program.dayStart(2123, 7, 1));
+    EXPECT_EQ(start.program.days().size(), CalculatorViewController::longestPeriod);
+    ASSERT_NE(start.shell->calendar, nullptr);
+    EXPECT_TRUE(start.shell->calendar->isDayDisabled()) << "today is long before";
+    EXPECT_FALSE(start.shell->calendar->footer()->isEnabled());
+}
+
+TEST(DietStart, EndsWithTheScreen)
+{
+    Start start;
+    start.program.weigh(start.program.dayStart(2024, 3, 1), 80);
+    start.startOn(start.program.dayStart(2024, 3, 7));
+    start.screen.reset();
+    QTest::qWait(350);
+    EXPECT_EQ(Start::alert(), nullptr);
+}
+
+} // namespace
+} // namespace kesto::test

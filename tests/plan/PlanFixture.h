@@ -1,0 +1,90 @@
+#pragma once
+
+#include "components/AlertCenter.h"
+#include "components/Shell.h"
+#include "plan/CalculatorViewController.h"
+#include "plan/CalendarViewController.h"
+#include "store/StoreFixture.h"
+
+namespace kesto::test
+{
+
+inline QStringList texts(std::initializer_list<const char *> utf8)
+{
+    QStringList list;
+    for (const char *text : utf8)
+        list.append(QString::fromUtf8(text));
+    return list;
+}
+
+/// A program with the screens of the plan.
+class PlanFixture : public StoreFixture
+{
+public:
+    explicit PlanFixture(TestPlatform::Options options = {}, bool metric = true)
+        : StoreFixture(std::move(options))
+    {
+        if (!metric)
+            defaults().setInteger(1, Keys::kSystemKey);
+    }
+
+    [[nodiscard]] const Calendar &calendar() { return platform.calendar(); }
+    [[nodiscard]] QDateTime dayStart(int year, int month, int day) const { return platform.date(year, month, day); }
+
+    void storePlan(const QDateTime &start, int attack, int cruise, int consolidation)
+    {
+        defaults().setValue(start, Keys::kStartDietDateKey);
+        defaults().setInteger(attack, Keys::kPeriod1Key);
+        defaults().setInteger(cruise, Keys::kPeriod2Key);
+        defaults().setInteger(consolidation, Keys::kPeriod3Key);
+        manager().setStartDietDay(start);
+    }
+
+    /// Date (of the zone's clock) and kind of every diet day, in order of dates.
+    [[nodiscard]] QStringList days()
+    {
+        QStringList lines;
+        FetchRequest request;
+        request.sortDescriptors = {{"date"}};
+        for (const DietDay *day : context().fetch<DietDay>(request)) {
+            QString line = day->date()->toTimeZone(calendar().timeZone()).toString(QStringLiteral("yyyy-MM-dd HH:mm"));
+            for (const char *kind : {"chB", "bO", "feast"}) {
+                const QVariant value = day->valueForKey(QLatin1String(kind));
+                if (value.isValid())
+                    line += u' ' + QLatin1String(kind) + (value.toBool() ? QString() : QStringLiteral("=NO"));
+            }
+            lines.append(line);
+        }
+        return lines;
+    }
+};
+
+/// Arranges screens as the program does: the calendar that it is asked for becomes the one in sight.
+class TestShell : public Shell
+{
+public:
+    void openDetailViewController(std::unique_ptr<ViewController>) override {}
+    void openCalendar() override
+    {
+        calendar = std::make_unique<CalendarViewController>();
+        calendar->loadViewIfNeeded();
+    }
+
+    std::unique_ptr<CalendarViewController> calendar;
+};
+
+/// The texts at the right of a section's rows.
+inline QStringList details(const CalculatorViewController &screen, int section)
+{
+    QStringList texts;
+    for (int row = 0; row < screen.numberOfRowsInSection(section); ++row) {
+        const TableRow cell = screen.cellForRow({section, row});
+        if (cell.kind == TableRow::Kind::Editable)
+            texts.append(cell.text + u' ' + cell.unit);
+        else if (!cell.detail.isEmpty())
+            texts.append(cell.detail);
+    }
+    return texts;
+}
+
+} // namespace kesto::test

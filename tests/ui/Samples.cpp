@@ -1,0 +1,146 @@
+#include "Samples.h"
+
+#include "components/PopoverController.h"
+#include "platform/Platform.h"
+
+namespace kesto::test
+{
+
+namespace
+{
+const QString yes = QStringLiteral("Yes");
+const QString no = QStringLiteral("No");
+} // namespace
+
+Window *Samples::appWindow() const { return &Window::sharedWindow(); }
+AlertCenter *Samples::alertCenter() const { return &AlertCenter::sharedCenter(); }
+ProgressIndicator *Samples::progress() const { return &ProgressIndicator::sharedIndicator(); }
+
+void Samples::arrange(std::unique_ptr<ViewController> centre)
+{
+    centre->setShowsMenuIcon(true);
+    auto stack = std::make_unique<NavigationController>(std::move(centre));
+    stack_ = stack.get();
+    auto menu = std::make_unique<SideMenuContainer>(
+        std::move(stack), std::make_unique<NavigationController>(std::make_unique<SampleList>()));
+    menu_ = menu.get();
+    appWindow()->setRootViewController(std::move(menu));
+}
+
+SampleTable *Samples::openTable(bool longTexts)
+{
+    auto table = std::make_unique<SampleTable>(longTexts);
+    SampleTable *made = table.get();
+    arrange(std::move(table));
+    return made;
+}
+
+SampleList *Samples::openList()
+{
+    auto list = std::make_unique<SampleList>();
+    SampleList *made = list.get();
+    arrange(std::move(list));
+    return made;
+}
+
+SampleTable *Samples::push()
+{
+    auto table = std::make_unique<SampleTable>();
+    SampleTable *made = table.get();
+    stack_->pushViewController(std::move(table), true);
+    return made;
+}
+
+SampleTable *Samples::present()
+{
+    auto table = std::make_unique<SampleTable>();
+    SampleTable *made = table.get();
+    stack_->presentViewController(std::make_unique<NavigationController>(std::move(table)), true);
+    return made;
+}
+
+void Samples::openPopover()
+{
+    stack_->topViewController()->presentPopover(std::make_unique<SampleTable>(), QStringLiteral("row/1/0"));
+}
+
+BKPasscodeViewController *Samples::lock()
+{
+    auto screen = std::make_unique<BKPasscodeViewController>(BKPasscodeViewController::Type::New);
+    BKPasscodeViewController *made = screen.get();
+    appWindow()->setLockScreen(std::make_unique<NavigationController>(std::move(screen)), false);
+    return made;
+}
+
+void Samples::unlock() { appWindow()->setLockScreen(nullptr, false); }
+
+void Samples::work(bool busy)
+{
+    if (busy)
+        progress()->show(QStringLiteral("Working"));
+    else
+        progress()->hide();
+}
+
+void Samples::clear()
+{
+    while (ShownAlert *alert = alertCenter()->current())
+        alert->answer(0);
+    while (progress()->isVisible())
+        progress()->hide();
+    appWindow()->setRootViewController(nullptr);
+    answers_.clear();
+    Q_EMIT answersChanged();
+}
+
+void Samples::show(Alert alert)
+{
+    alert.context = this;
+    alert.answered = [this](const AlertAnswer &answer) {
+        answers_.append(answer.text.isEmpty() ? answer.buttonTitle
+                                              : answer.buttonTitle + QStringLiteral(": ") + answer.text);
+        if (answer.date.isValid())
+            answers_.last() += QStringLiteral(" ") + answer.date.toString(Qt::ISODate);
+        Q_EMIT answersChanged();
+    };
+    alertCenter()->show(std::move(alert));
+}
+
+void Samples::ask()
+{
+    show({.title = QStringLiteral("Sure?"),
+          .message = QStringLiteral("Think."),
+          .buttons = {{no, Alert::Role::Cancel}, {yes}}});
+}
+
+void Samples::askText(const QString &text)
+{
+    show({.title = QStringLiteral("Name"),
+          .buttons = {{no, Alert::Role::Cancel}, {yes}},
+          .textField = Alert::TextField{.placeholder = QStringLiteral("of it"), .text = text}});
+}
+
+void Samples::askSheet(const QString &title)
+{
+    show({.style = Alert::Style::ActionSheet,
+          .title = title,
+          .buttons = {{no, Alert::Role::Cancel},
+                      {QStringLiteral("Keep")},
+                      {QStringLiteral("Delete"), Alert::Role::Destructive}}});
+}
+
+void Samples::askDate(const QDateTime &date)
+{
+    show({.title = QStringLiteral("When"),
+          .buttons = {{no, Alert::Role::Cancel}, {yes}},
+          .dateField = Alert::DateField{.date = date}});
+}
+
+Picker *Samples::picker(const QList<QStringList> &titles, const QList<int> &selected)
+{
+    auto *made = new Picker(this);
+    made->setContent(titles, selected);
+    return made;
+}
+
+} // namespace kesto::test

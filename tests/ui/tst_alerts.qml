@@ -1,0 +1,90 @@
+import QtQuick
+import QtTest
+import Kesto
+import KestoTest
+
+Item {
+    id: scene
+
+    width: 390
+    height: 844
+
+    Stage {
+        id: stage
+
+        focus: true
+    }
+
+    TestCase {
+        name: "Alerts"
+        when: windowShown
+
+        function init() {
+            failOnWarning(/.?/);
+            Appearance.motion = false;
+            Samples.openTable();
+            stage.forceActiveFocus();
+        }
+        function cleanup() {
+            Samples.clear();
+        }
+        function cleanupTestCase() {
+            Appearance.motion = true;
+        }
+
+        function test_answeredByKeys_data() {
+            return [
+                { tag: "Enter does it", ask: () => Samples.ask(), keys: [Qt.Key_Return], answer: "Yes" },
+                { tag: "Space does it", ask: () => Samples.ask(), keys: [Qt.Key_Space], answer: "Yes" },
+                { tag: "Escape cancels", ask: () => Samples.ask(), keys: [Qt.Key_Escape], answer: "No" },
+                { tag: "Tab leads to the other", ask: () => Samples.ask(), keys: [Qt.Key_Tab, Qt.Key_Return], answer: "No" },
+                { tag: "an arrow leads to the other", ask: () => Samples.ask(), keys: [Qt.Key_Left, Qt.Key_Return], answer: "No" },
+                { tag: "text is taken along", ask: () => Samples.askText("so"), keys: [Qt.Key_A, Qt.Key_Return], answer: "Yes: a" },
+                { tag: "text that stays", ask: () => Samples.askText("so"), keys: [Qt.Key_End, Qt.Key_B, Qt.Key_Enter], answer: "Yes: sob" },
+                { tag: "Escape in a field cancels", ask: () => Samples.askText("so"), keys: [Qt.Key_Escape], answer: "No: so" },
+                { tag: "a sheet begins with its first choice", ask: () => Samples.askSheet("What?"), keys: [Qt.Key_Return], answer: "Keep" },
+                { tag: "a sheet's next", ask: () => Samples.askSheet("What?"), keys: [Qt.Key_Down, Qt.Key_Return], answer: "Delete" },
+                { tag: "a sheet's last cancels", ask: () => Samples.askSheet("What?"), keys: [Qt.Key_Down, Qt.Key_Down, Qt.Key_Return], answer: "No" },
+                { tag: "Escape leaves a sheet", ask: () => Samples.askSheet("What?"), keys: [Qt.Key_Escape], answer: "No" },
+                { tag: "a day by wheels", ask: () => Samples.askDate(new Date(Date.UTC(2024, 2, 7, 12))), keys: [Qt.Key_Down, Qt.Key_Right, Qt.Key_Down, Qt.Key_Return], answer: "Yes 2024-04-08T11:00:00Z" },
+            ];
+        }
+        function test_answeredByKeys(data) {
+            data.ask();
+            data.keys.forEach(key => keyClick(key));
+            compare(Samples.answers, [data.answer]);
+            compare(Samples.alertCenter.current, null);
+        }
+
+        function test_theKeysReturnToWhereTheyWere() {
+            keyClick(Qt.Key_Down);
+            const before = stage.Window.activeFocusItem;
+            verify(before);
+            Samples.ask();
+            verify(stage.Window.activeFocusItem !== before);
+            keyClick(Qt.Key_Return);
+            compare(stage.Window.activeFocusItem, before);
+        }
+
+        function test_nothingBehindHearsAnything() {
+            const table = Samples.openTable();
+            Samples.ask();
+            mouseClick(stage, 200, 110);
+            keyClick(Qt.Key_Tab);
+            keyClick(Qt.Key_Tab);
+            keyClick(Qt.Key_Tab);
+            keyClick(Qt.Key_Escape);
+            compare(Samples.answers, ["No"]);
+            compare(table.heard, []);
+        }
+
+        function test_touchBesideASheetCancelsIt() {
+            Samples.askSheet("What?");
+            mouseClick(stage, 200, 100);
+            compare(Samples.answers, ["No"]);
+            Samples.ask();
+            mouseClick(stage, 200, 40);
+            compare(Samples.answers, ["No"]);
+        }
+    }
+}

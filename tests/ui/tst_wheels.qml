@@ -1,0 +1,121 @@
+import QtQuick
+import QtTest
+import Kesto
+import KestoTest
+
+Item {
+    id: scene
+
+    width: 390
+    height: 400
+
+    Component {
+        id: wheelComponent
+
+        WheelPicker { width: scene.width }
+    }
+    SignalSpy {
+        id: spy
+
+        signalName: "selected"
+    }
+
+    TestCase {
+        name: "Wheels"
+        when: windowShown
+
+        property Picker picker
+        property WheelPicker wheels
+
+        function numbers(from, to) {
+            const titles = [];
+            for (let number = from; number <= to; ++number)
+                titles.push(String(number));
+            return titles;
+        }
+        function selected() {
+            return picker.components.map(component => component.selectedRow);
+        }
+        function init() {
+            failOnWarning(/.?/);
+            Appearance.motion = false;
+            picker = Samples.picker([numbers(40, 190), numbers(0, 9)], [30, 5]);
+            wheels = createTemporaryObject(wheelComponent, scene, { picker: picker });
+            spy.target = picker;
+            spy.clear();
+            wheels.forceActiveFocus();
+            waitForRendering(wheels);
+        }
+        function cleanupTestCase() {
+            Appearance.motion = true;
+        }
+
+        function test_keys_data() {
+            return [
+                { tag: "down", keys: [Qt.Key_Down], row: 31 },
+                { tag: "up", keys: [Qt.Key_Up, Qt.Key_Up], row: 28 },
+                { tag: "a page", keys: [Qt.Key_PageDown], row: 35 },
+                { tag: "first", keys: [Qt.Key_Home], row: 0 },
+                { tag: "not before the first", keys: [Qt.Key_Home, Qt.Key_Up], row: 0 },
+                { tag: "last", keys: [Qt.Key_End], row: 150 },
+                { tag: "not after the last", keys: [Qt.Key_End, Qt.Key_PageDown], row: 150 },
+                { tag: "typed", keys: [Qt.Key_1, Qt.Key_2, Qt.Key_5], row: 85 },
+            ];
+        }
+        function test_keys(data) {
+            data.keys.forEach(key => keyClick(key));
+            compare(selected(), [data.row, 5]);
+        }
+
+        function test_arrowsLeadToTheNextWheel() {
+            keyClick(Qt.Key_Right);
+            keyClick(Qt.Key_Down);
+            keyClick(Qt.Key_Right);
+            keyClick(Qt.Key_Down);
+            compare(selected(), [30, 7]);
+            keyClick(Qt.Key_Left);
+            keyClick(Qt.Key_Up);
+            compare(selected(), [29, 7]);
+            compare(spy.count, 3);
+        }
+
+        function test_mouseWheelTurnsOneRowAStep() {
+            const x = wheels.width / 2 - 40;
+            mouseWheel(wheels, x, wheels.height / 2, 0, -120);
+            compare(selected(), [31, 5]);
+            mouseWheel(wheels, x, wheels.height / 2, 0, 60);
+            compare(selected(), [31, 5]);
+            mouseWheel(wheels, x, wheels.height / 2, 0, 60);
+            compare(selected(), [30, 5]);
+        }
+
+        function test_touchOnANeighbourChoosesIt() {
+            const row = wheels.height / 5;
+            mouseClick(wheels, wheels.width / 2 - 40, wheels.height / 2 + row);
+            tryVerify(() => selected()[0] === 31);
+        }
+
+        function test_dragSnapsToARow() {
+            const x = wheels.width / 2 - 40;
+            const row = wheels.height / 5;
+            mousePress(wheels, x, wheels.height / 2);
+            for (let step = 1; step <= 10; ++step)
+                mouseMove(wheels, x, wheels.height / 2 - step * row * 0.24, 40);
+            wait(150);
+            mouseRelease(wheels, x, wheels.height / 2 - row * 2.4);
+            tryVerify(() => spy.count > 0);
+            const row0 = selected()[0];
+            verify(row0 >= 31 && row0 <= 33, "row " + row0);
+            compare(selected()[1], 5);
+        }
+
+        function test_followsTheProgram() {
+            const again = Samples.picker([["a", "b", "c"]], [2]);
+            wheels.picker = again;
+            compare(again.components[0].selectedRow, 2);
+            again.components[0].select(0);
+            keyClick(Qt.Key_Down);
+            compare(again.components[0].selectedRow, 1);
+        }
+    }
+}
