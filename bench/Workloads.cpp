@@ -1,0 +1,15 @@
+#include "Workloads.h"
+
+namespace kesto::bench
+{
+
+std::vector<Workload> allWorkloads(Fixtures &fixtures)
+{
+    return {
+        importOfCatalogue(fixtures), fetchOfIngredients(fixtures),  walkOverDishes(fixtures),
+        lookUpOfDays(fixtures),      lookUpByIdentity(fixtures),    saveOfOneDay(fixtures),
+        daysWithJournals(fixtures),  parseOfPropertyList(fixtures), firstStart(fixtures),
+    };
+}
+
+} // namespace kesto::bench
