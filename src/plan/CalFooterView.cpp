@@ -1,7 +1,6 @@
 #include "plan/CalFooterView.h"
 
 #include "model/DietDay.h"
-#include "platform/StringFormat.h"
 #include "platform/StringTables.h"
 #include "store/CoreDataManager.h"
 
@@ -14,6 +13,7 @@ namespace
 constexpr std::array fieldTitles{u"Вес", u"Грудь", u"Талия", u"Бедра"};
 constexpr std::array kindTitles{u"Чистый Белок", u"Белок и овощи", u"Пир"};
 constexpr int weightTag = 0;
+constexpr int shownDigits = 6; // all that a person types; a weight from pounds has more
 
 /// How many of the kinds a day of a phase may carry.
 int kindsOfPeriod(int period)
@@ -123,8 +123,8 @@ void CalFooterView::setDietPeriod(int period, const DietDay *forDay, const QDate
 void CalFooterView::fillFields(const DietDay *day)
 {
     for (size_t tag = 0; tag < fieldCount; ++tag) {
-        const QVariant value = day != nullptr ? day->valueForKey(fieldKeys()[tag]) : QVariant();
-        fields_[tag]->setText(value.toFloat() > 0 ? plainText(value) : QString());
+        const float value = day != nullptr ? day->valueForKey(fieldKeys()[tag]).toFloat() : 0;
+        fields_[tag]->setText(value > 0 ? QString::number(value, 'g', shownDigits) : QString());
     }
 }
 

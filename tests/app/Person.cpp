@@ -25,6 +25,18 @@ QAccessibleInterface *searchBelow(QAccessibleInterface *parent, const QRect &are
     return nullptr;
 }
 
+QString nameWithin(QQuickItem &item)
+{
+    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(static_cast<QObject *>(&item));
+    QString name;
+    if (accessible != nullptr && !accessible->state().invisible)
+        name = accessible->text(QAccessible::Name);
+    const QList<QQuickItem *> children = item.childItems();
+    for (auto child = children.begin(); name.isEmpty() && child != children.end(); ++child)
+        name = nameWithin(**child);
+    return name;
+}
+
 } // namespace
 
 QAccessibleInterface *Person::search(const std::function<bool(QAccessibleInterface &)> &wanted) const
@@ -72,8 +84,8 @@ void Person::presses(Qt::Key key, Qt::KeyboardModifiers modifiers) const
 
 QString Person::focus() const
 {
-    QAccessibleInterface *focused = QAccessible::queryAccessibleInterface(window_.activeFocusItem());
-    return focused != nullptr ? focused->text(QAccessible::Name) : QString();
+    QQuickItem *focused = window_.activeFocusItem();
+    return focused != nullptr ? nameWithin(*focused) : QString();
 }
 
 std::string Person::view() const

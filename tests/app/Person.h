@@ -26,7 +26,7 @@ public:
     /// Clicks into the middle of it when it has come to rest; false when it does not come.
     [[nodiscard]] bool touches(QAccessible::Role role, const QString &name) const;
     void presses(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
-    /// The name of what the keys go to.
+    /// The name of what the keys go to, or of the first thing in it that has one.
     [[nodiscard]] QString focus() const;
 
     /// Everything that can be seen, one "role: name" a line, for messages.

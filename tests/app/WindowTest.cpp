@@ -96,8 +96,7 @@ TEST_F(WindowTest, FirstStartToTheMenuAndBackByPointer)
     EXPECT_FALSE(person().sees(QAccessible::Indicator, preparing));
 }
 
-// Off until a row that the arrows choose has the focus itself: today the list keeps it, without a name.
-TEST_F(WindowTest, DISABLED_FirstStartToTheMenuAndBackByKeys)
+TEST_F(WindowTest, FirstStartToTheMenuAndBackByKeys)
 {
     start(Device::Phone, QSize(390, 844));
     const Person user = person();

@@ -170,6 +170,12 @@ TEST(Calendar, MeasuresAreStoredAsTyped)
         EXPECT_EQ(at.fields(), texts({"72.5", "101.25", "88", "96"}));
         EXPECT_EQ(at.screen->currentWeight(), metric ? QStringLiteral("72.5 кг") : QStringLiteral("159.8 lbs"));
 
+        at.record(7)->setWeight(150 * 0.45359236F); // as another screen stores pounds
+        at.open();
+        EXPECT_EQ(at.fields()[0], QStringLiteral("68.0389"));
+        at.footer().endEditing(0, QStringLiteral("68.0389"));
+        EXPECT_EQ(at.record(7)->weight(), 150 * 0.45359236F) << "a field that was left as it was is no edit";
+
         int told = 0;
         QObject::connect(at.footer().fields()[1], &CalFooterField::textChanged, [&] { ++told; });
         for (const char *cleared : {"0", "-4", "text", ""}) {

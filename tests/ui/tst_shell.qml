@@ -26,7 +26,7 @@ Item {
             Appearance.motion = false;
             table = Samples.openTable();
             stage.forceActiveFocus();
-            waitForRendering(stage);
+            wait(20);
         }
         function cleanup() {
             Samples.clear();
@@ -58,7 +58,7 @@ Item {
 
         function test_theBackButtonPops() {
             Samples.push();
-            waitForRendering(stage);
+            wait(20);
             mouseClick(stage, 20, 22);
             compare(Samples.stack().viewControllers.length, 1);
         }

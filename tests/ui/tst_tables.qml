@@ -29,7 +29,7 @@ Item {
             stage.forceActiveFocus();
             list = stage.tables()[0];
             verify(list);
-            waitForRendering(stage);
+            wait(20);
         }
         function cleanup() {
             Samples.clear();
@@ -46,7 +46,7 @@ Item {
                 const item = list.itemAtIndex(line);
                 if (item && item.objectName === name) {
                     list.positionViewAtIndex(line, ListView.Contain);
-                    waitForRendering(list);
+                    wait(10);
                     return item;
                 }
                 list.positionViewAtIndex(line, ListView.Contain);
@@ -194,11 +194,11 @@ Item {
         function test_movedByTheHandle() {
             table.editing = true;
             const item = row(2, 0);
-            const x = item.width - 34;
-            mousePress(item, x, item.height / 2);
+            const from = item.mapToItem(stage, item.width - 34, item.height / 2);
+            mousePress(stage, from.x, from.y);
             for (let y = 0; y <= 2 * item.height; y += 8)
-                mouseMove(item, x, item.height / 2 + y, 5);
-            mouseRelease(item, x, item.height / 2 + 2 * item.height);
+                mouseMove(stage, from.x, from.y + y, 5);
+            mouseRelease(stage, from.x, from.y + 2 * item.height);
             compare(table.heard, ["moved 0 to 2"]);
         }
 
@@ -235,10 +235,13 @@ Item {
             Appearance.textScale = data.scale;
             stage.width = data.width;
             table = Samples.openTable(true);
+            wait(20);
             list = stage.tables()[0];
+            for (const text of stage.all(stage, item => item.hasOwnProperty("truncated") && item.visible))
+                verify(!text.truncated, "cut: " + text.text);
             for (let line = 0; line < list.count; ++line) {
                 list.positionViewAtIndex(line, ListView.Contain);
-                waitForRendering(list);
+                wait(10);
                 const item = list.itemAtIndex(line);
                 verify(!item.isRow || item.height >= 44, "row " + line + " is " + item.height + " high");
                 for (const text of stage.all(item, child => child.hasOwnProperty("truncated") && child.visible)) {
@@ -255,7 +258,7 @@ Item {
         function test_everyRowHasANameAndARole() {
             for (let line = 0; line < list.count; ++line) {
                 list.positionViewAtIndex(line, ListView.Contain);
-                waitForRendering(list);
+                wait(10);
                 const item = list.itemAtIndex(line);
                 if (!item.isRow)
                     continue;

@@ -44,7 +44,7 @@ Item {
             spy.target = picker;
             spy.clear();
             wheels.forceActiveFocus();
-            waitForRendering(wheels);
+            wait(20);
         }
         function cleanupTestCase() {
             Appearance.motion = true;

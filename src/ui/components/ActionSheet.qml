@@ -34,7 +34,7 @@ FocusScope {
         const place = order.findIndex(button => button !== cancelButtonIndex && button !== destructiveButtonIndex);
         const button = repeater.itemAt(place < 0 ? order.length - 1 : place);
         if (button)
-            button.forceActiveFocus(Qt.OtherFocusReason);
+            button.focus = true;
     }
 
     Rectangle {

@@ -37,12 +37,9 @@ FocusScope {
 
     Keys.onEscapePressed: cancelled()
     Component.onCompleted: {
-        if (hasTextField)
-            field.forceActiveFocus(Qt.OtherFocusReason);
-        else if (picker)
-            (wheels.item as WheelPicker).forceActiveFocus(Qt.OtherFocusReason);
-        else
-            buttons.focusPreferred();
+        const first = hasTextField ? field : picker ? wheels : buttons.preferredButton();
+        if (first)
+            first.focus = true;
     }
 
     Rectangle {
@@ -114,6 +111,7 @@ FocusScope {
                     active: dialog.picker !== null
                     visible: active
                     sourceComponent: WheelPicker {
+                        focus: true
                         picker: dialog.picker
                         name: dialog.title
                         Keys.onReturnPressed: dialog.answered(dialog.preferred)
@@ -130,10 +128,8 @@ FocusScope {
                         return width;
                     }
 
-                    function focusPreferred(): void {
-                        const item = repeater.itemAt(Math.max(0, dialog.preferred));
-                        if (item)
-                            item.forceActiveFocus(Qt.OtherFocusReason);
+                    function preferredButton(): Item {
+                        return repeater.itemAt(Math.max(0, dialog.preferred));
                     }
 
                     width: parent.width

@@ -39,6 +39,9 @@ T.AbstractButton {
             visible: text.length > 0
             text: control.title
             color: control.ink
+            font.pixelSize: Math.min(Tokens.textBody, Tokens.textOfBars)
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 12
             wrapMode: Text.NoWrap
             elide: Text.ElideRight
             horizontalAlignment: Text.AlignHCenter

@@ -54,6 +54,7 @@ Rectangle {
         id: label
 
         readonly property real natural: measure.implicitWidth
+        readonly property int largest: Math.min(Tokens.textTitle, Tokens.textOfTitles)
 
         x: bar.centred ? bar.side : bar.leftEnd + Tokens.half
         width: bar.centred ? bar.width - 2 * bar.side : bar.width - bar.leftEnd - right.width - Tokens.unit
@@ -62,9 +63,11 @@ Rectangle {
         color: Tokens.colors.barTitle
         style: Text.Raised
         styleColor: Tokens.colors.barTitleShade
-        font.pixelSize: Tokens.textTitle
+        // What is too long for a line goes into two, and grows smaller if it has to.
+        font.pixelSize: natural <= width ? largest : Math.max(Tokens.textOfTabs, Math.min(largest, Math.floor(largest * 1.6 * width / natural)))
         font.weight: Font.Light
         horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.WordWrap
         maximumLineCount: 2
         elide: Text.ElideRight
         lineHeight: 0.95
@@ -77,7 +80,8 @@ Rectangle {
 
             visible: false
             text: bar.title
-            font: label.font
+            font.pixelSize: label.largest
+            font.weight: Font.Light
             wrapMode: Text.NoWrap
         }
     }

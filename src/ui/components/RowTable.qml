@@ -45,7 +45,20 @@ TableBase {
     onStepped: (line, by) => step(line as TableLine, by)
 
     function focusList(): void {
-        (list.currentItem ?? list).forceActiveFocus(Qt.OtherFocusReason);
+        const line = currentLine();
+        if (line)
+            line.takeKeys();
+        else
+            list.forceActiveFocus(Qt.OtherFocusReason);
+    }
+    /*! The keys come: to the first row that can be seen. */
+    function enter(): void {
+        if (list.currentIndex >= 0 || list.count === 0)
+            return;
+        list.forceLayout();
+        let i = Math.max(0, list.indexAt(list.width / 2, list.contentY + 1));
+        for (list.currentIndex = i; i < list.count && !(currentLine() && currentLine().isRow); )
+            list.currentIndex = ++i;
     }
     /*! To the next row, over headers and footers. */
     function go(by: int): bool {
@@ -123,7 +136,9 @@ TableBase {
 
         delegate: TableLine { table: root }
 
-        onActiveFocusChanged: if (activeFocus && currentIndex < 0) root.go(1)
+        onActiveFocusChanged: if (activeFocus) root.enter()
+        onCountChanged: if (activeFocus) root.enter()
+        Component.onCompleted: if (activeFocus) root.enter()
         Keys.onPressed: event => {
             const line = root.currentLine();
             root.byKeyboard = true;

@@ -21,7 +21,7 @@ T.AbstractButton {
         text: control.text
         color: control.chosen ? Tokens.colors.accentText : Tokens.colors.barButton
         font.weight: control.chosen ? Font.Medium : Font.Normal
-        font.pixelSize: Tokens.textSmall
+        font.pixelSize: Math.min(Tokens.textSmall, Tokens.textOfScopes)
         fontSizeMode: Text.Fit
         minimumPixelSize: 9
         wrapMode: Text.NoWrap

@@ -15,7 +15,6 @@ Item {
     property bool checked: false
     property bool current: false
     property string checkName
-    readonly property real naturalHeight: pictureBox.height + label.height + marks.height + 5 * Tokens.unit
 
     signal activated
     signal checkTouched
@@ -43,7 +42,7 @@ Item {
             x: Tokens.unit
             y: Tokens.unit
             width: parent.width - 2 * x
-            height: Math.round(width * 0.62)
+            height: Math.round(Math.min(width * 0.62, 160))
 
             Icon {
                 anchors.centerIn: parent
@@ -63,6 +62,8 @@ Item {
             x: Tokens.unit
             width: parent.width - 2 * x
             text: tile.title
+            maximumLineCount: 3
+            elide: Text.ElideRight
             font.pixelSize: Tokens.textSmall
             horizontalAlignment: Text.AlignHCenter
         }

@@ -6,7 +6,8 @@ GridView {
     id: grid
 
     property int minimumTile: Math.round(150 * Tokens.pictureScale)
-    property real tileHeight: 180
+    /*! Room for the picture, three lines of words and the marks. */
+    property real tileHeight: Math.round(Math.min(cellWidth * 0.6, 160) + Tokens.textSmall * 1.3 * 3 + 6 * Tokens.unit)
     readonly property int columns: Math.max(1, Math.floor((width - 2 * Tokens.unit) / minimumTile))
     property bool byKeyboard: false
 

@@ -6,7 +6,7 @@ import Kesto
     \a cell names, which gets this line as its \c line and reads what it shows from \a value. A row's name as an anchor is
     "row/<section>/<row>".
 */
-Item {
+FocusScope {
     id: line
 
     required property int index
@@ -129,7 +129,6 @@ Item {
             id: loader
 
             width: parent.width
-            focus: true
         }
     }
     ReorderHandle {
@@ -149,6 +148,13 @@ Item {
         loader.setSource(source.length > 0 ? source : "TextLine.qml", { line: line });
     }
 
+    /*! Takes the keys back from what is in the row. */
+    function takeKeys(): void {
+        loader.focus = false;
+        forceActiveFocus(Qt.OtherFocusReason);
+    }
+
+    onActiveFocusChanged: if (!activeFocus) loader.focus = false
     onSourceChanged: draw()
     Component.onCompleted: draw()
 }

@@ -14,6 +14,11 @@ FocusScope {
 
     /*! The alert is gone before its picture is, which therefore keeps what it shows. */
     function show(): void {
+        draw();
+        if (shown && enabled)
+            shown.forceActiveFocus(Qt.OtherFocusReason);
+    }
+    function draw(): void {
         if (shown) {
             shown.visible = false;
             shown.destroy();

@@ -16,8 +16,6 @@ FocusScope {
     readonly property bool asked: alertCenter.current !== null
     readonly property bool popped: appWindow.popovers.length > 0
     readonly property bool presenting: appWindow.presentedViewControllers.length > 0
-    /*! What had the keys before something came in front; they return to it. */
-    property Item focusBefore: null
 
     function toggleMenu(): void {
         const menu = appWindow.rootViewController as SideMenuContainer;
@@ -27,27 +25,18 @@ FocusScope {
         else if (split && split.masterHidden)
             split.menuPopoverOpen = !split.menuPopoverOpen;
     }
-    function cover(covered: bool): void {
-        if (covered) {
-            focusBefore = Window.activeFocusItem;
-            return;
-        }
-        const item = focusBefore;
-        focusBefore = null;
-        if (item && item.visible && item.enabled)
-            item.forceActiveFocus(Qt.OtherFocusReason);
-        else if (presenting)
-            presented.forceActiveFocus(Qt.OtherFocusReason);
-        else
-            root.forceActiveFocus(Qt.OtherFocusReason);
+    /*! The keys go to what is in front; each part remembers which of its items had them. */
+    function giveKeys(): void {
+        const front = locked ? lock : asked ? alerts : popped ? popovers : presenting ? presented : root;
+        front.forceActiveFocus(Qt.OtherFocusReason);
     }
 
     onWidthChanged: appWindow.size = Qt.size(width, height)
     onHeightChanged: appWindow.size = Qt.size(width, height)
-    onAskedChanged: if (!asked && !locked) cover(false)
-    onPoppedChanged: if (!popped && !asked && !locked) cover(false)
-    onPresentingChanged: if (!presenting && !asked && !locked) root.forceActiveFocus(Qt.OtherFocusReason)
-    onLockedChanged: if (!locked) cover(false)
+    onAskedChanged: giveKeys()
+    onPoppedChanged: giveKeys()
+    onPresentingChanged: giveKeys()
+    onLockedChanged: giveKeys()
 
     Keys.onEscapePressed: event => event.accepted = !asked && !locked && appWindow.back()
     Keys.onBackPressed: event => event.accepted = !asked && !locked && appWindow.back()
@@ -87,6 +76,8 @@ FocusScope {
             }
         }
         PopoverLayer {
+            id: popovers
+
             anchors.fill: parent
             appWindow: shell.appWindow
             root: screens

@@ -32,6 +32,7 @@ FocusScope {
 
         anchors.fill: parent
         focus: true
+        onLoaded: (item as Item).focus = true
     }
     Component.onCompleted: {
         controller.attachView();

@@ -19,6 +19,7 @@ FocusScope {
 
             width: over.width
             height: over.height
+            focus: true
             sizeHint: modelData.sizeHint
             onDismissed: modelData.dismiss()
             Component.onCompleted: {

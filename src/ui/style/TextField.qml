@@ -88,6 +88,8 @@ T.TextField {
         text: control.placeholderText
         color: control.placeholderTextColor
         font: control.font
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 10
         wrapMode: Text.NoWrap
         elide: Text.ElideRight
         horizontalAlignment: control.effectiveHorizontalAlignment

@@ -44,8 +44,11 @@ QtObject {
     readonly property real textScale: Appearance.textScale
     readonly property string family: Appearance.fontFamily
     readonly property int textCaption: Math.round(12 * textScale)
-    /*! The largest of tabs, which have little room. */
+    // The largest in bars, which have little room
     readonly property int textOfTabs: 15
+    readonly property int textOfScopes: 17
+    readonly property int textOfBars: 24
+    readonly property int textOfTitles: 28
     readonly property int textSmall: Math.round(14 * textScale)
     readonly property int textBody: Math.round(16 * textScale)
     readonly property int textTitle: Math.round(18 * textScale)
