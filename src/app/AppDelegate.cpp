@@ -4,6 +4,7 @@
 #include "app/RootViewConrollerViewController.h"
 #include "app/Styllesheet.h"
 #include "components/AlertCenter.h"
+#include "components/DayWatch.h"
 #include "components/NavigationController.h"
 #include "components/RatingPrompt.h"
 #include "components/SideMenuContainer.h"
@@ -14,6 +15,7 @@
 #include "platform/Platform.h"
 #include "platform/StringTables.h"
 #include "platform/UserDefaults.h"
+#include "store/CoreDataManager.h"
 #include "store/Keys.h"
 
 #include <utility>
@@ -159,16 +161,25 @@ void AppDelegate::application(const LocalNotification &didReceiveLocalNotificati
 
 void AppDelegate::applicationDidEnterBackground()
 {
+    saveChanges();
     BKPasscodeLockScreenManager::sharedManager().showLockScreen(false);
 }
 
 void AppDelegate::applicationWillEnterForeground()
 {
     platform_.userDefaults().synchronize();
+    DayWatch::sharedWatch().look();
     RatingPrompt::sharedPrompt().appEnteredForeground(true);
 }
 
-void AppDelegate::applicationWillTerminate() { platform_.userDefaults().synchronize(); }
+void AppDelegate::applicationWillTerminate()
+{
+    saveChanges();
+    platform_.userDefaults().synchronize();
+}
+
+// Who is in the background may be ended without another word.
+void AppDelegate::saveChanges() { (void)CoreDataManager::sharedManager().managedObjectContext()->save(); }
 
 bool AppDelegate::lockScreenManagerShouldShowLockScreen(BKPasscodeLockScreenManager &)
 {

@@ -60,6 +60,7 @@ public:
                                            BarButtonItem &displayModeButtonItem) override;
 
 private:
+    static void saveChanges();
     // The launch, in this order.
     void becomeLockScreenDelegate();
     void registerDefaultSettings();

@@ -71,20 +71,22 @@ std::unique_ptr<ApplicationServices> ApplicationServices::open(const Options &op
         return nullptr;
     }
 
+    Clock *clock = options.clock != nullptr ? options.clock : &services->systemClock_;
+    RandomSource *random = options.random != nullptr ? options.random : &services->systemRandom_;
     services->userDefaults_ = std::make_unique<UserDefaults>(folder + QStringLiteral("/UserDefaults.plist"));
     services->strings_ = std::make_unique<StringTables>(options.resourcesFolder,
                                                         preferredLanguage(options.language, *services->userDefaults_));
     services->presenter_ = std::make_unique<DesktopNotificationPresenter>(applicationName);
     services->notifications_ = std::make_unique<LocalNotificationCenter>(
-        folder, services->strings_->localized(QStringLiteral("Диета Кесто")), services->clock_, *services->presenter_);
+        folder, services->strings_->localized(QStringLiteral("Диета Кесто")), *clock, *services->presenter_);
     services->platform_ = std::make_unique<Platform>(Platform::Services{.documentsFolder = documents,
                                                                         .resourcesFolder = options.resourcesFolder,
                                                                         .version = options.version,
                                                                         .userDefaults = services->userDefaults_.get(),
                                                                         .strings = services->strings_.get(),
                                                                         .notifications = services->notifications_.get(),
-                                                                        .clock = &services->clock_,
-                                                                        .random = &services->random_,
+                                                                        .clock = clock,
+                                                                        .random = random,
                                                                         .calendar = Calendar(),
                                                                         .urlOpener = &QDesktopServices::openUrl});
     return services;

@@ -26,7 +26,9 @@ public:
         QString dataFolder;      ///< made, for the user's eyes only, when it is not there
         QString resourcesFolder; ///< as laid out beside the program
         QString version;
-        QString language; ///< "ru" or "en"; empty: as the user chose in the program, else as the system says
+        QString language;       ///< "ru" or "en"; empty: as the user chose in the program, else as the system says
+        Clock *clock = nullptr; ///< outlives the services; null: the system's
+        RandomSource *random = nullptr; ///< the same
     };
 
     /// Null when the folder can't be used; error then holds a sentence for the user.
@@ -47,8 +49,8 @@ private:
     explicit ApplicationServices(const QString &dataFolder);
 
     QLockFile lock_;
-    SystemClock clock_;
-    SystemRandomSource random_;
+    SystemClock systemClock_;
+    SystemRandomSource systemRandom_;
     std::unique_ptr<UserDefaults> userDefaults_;
     std::unique_ptr<StringTables> strings_;
     std::unique_ptr<DesktopNotificationPresenter> presenter_;

@@ -48,7 +48,9 @@ std::unique_ptr<Program> Program::start(const Options &options, QString *error)
     program->services_ = ApplicationServices::open({.dataFolder = options.dataFolder,
                                                     .resourcesFolder = resourcesFolder(options.resourcesFolder),
                                                     .version = QCoreApplication::applicationVersion(),
-                                                    .language = options.language},
+                                                    .language = options.language,
+                                                    .clock = options.clock,
+                                                    .random = options.random},
                                                    error);
     if (program->services_ == nullptr)
         return nullptr;
@@ -56,6 +58,7 @@ std::unique_ptr<Program> Program::start(const Options &options, QString *error)
     program->delegate_ = std::make_unique<AppDelegate>(program->platform());
     (void)program->delegate_->application(AppDelegate::LaunchOptions());
     program->userInterface_ = std::make_unique<UserInterface>(program->platform());
+    program->userInterface_->appearance().followSystem();
     if (!program->userInterface_->load()) {
         *error = QStringLiteral("The interface can't be loaded.");
         return nullptr;
@@ -83,8 +86,15 @@ void Program::arrangeWindow(const Options &options)
 
 void Program::showInterface()
 {
-    QGuiApplication::setWindowIcon(QIcon(platform().resourcesFolder() + QStringLiteral("/images/app_icon.svg")));
     QQuickWindow &shown = view();
+    // The first picture need not wait for what is not in it.
+    const auto followFirstFrame = [this] {
+        QGuiApplication::setWindowIcon(QIcon(platform().resourcesFolder() + QStringLiteral("/images/app_icon.svg")));
+        lifecycle_.watchScreenLock();
+        desktopSettings_.follow();
+    };
+    connect(&shown, &QQuickWindow::frameSwapped, this, followFirstFrame,
+            static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
     shown.setMinimumSize(smallestSize);
     shown.resize(initialSize_);
     if (initialSize_ == QGuiApplication::primaryScreen()->availableSize())
@@ -93,6 +103,8 @@ void Program::showInterface()
 
 void Program::followSystem()
 {
+    connect(&desktopSettings_, &DesktopSettings::animationsChanged, &userInterface_->appearance(),
+            &Appearance::setMotion);
     connect(&lifecycle_, &ApplicationLifecycle::didEnterBackground, delegate_.get(),
             &AppDelegate::applicationDidEnterBackground);
     connect(&lifecycle_, &ApplicationLifecycle::willEnterForeground, delegate_.get(),
@@ -106,7 +118,6 @@ void Program::followSystem()
     connect(&view(), &QWindow::visibilityChanged, &lifecycle_, [this](QWindow::Visibility visibility) {
         lifecycle_.setWindowMinimized(visibility == QWindow::Minimized);
     });
-    lifecycle_.watchScreenLock();
 }
 
 } // namespace kesto

@@ -4,6 +4,7 @@
 #include "app/ApplicationLifecycle.h"
 #include "app/ApplicationServices.h"
 #include "app/CommandLine.h"
+#include "platform/DesktopSettings.h"
 #include "ui/UserInterface.h"
 
 #include <QQuickWindow>
@@ -30,6 +31,8 @@ public:
         QString language;             ///< empty: see ApplicationServices
         std::optional<Device> device; ///< nothing: by the size of the screen
         QSize size;                   ///< of the window; empty: as the screen allows
+        Clock *clock = nullptr;       ///< see ApplicationServices
+        RandomSource *random = nullptr;
     };
 
     /// Null when the program can't start; error then holds a sentence for the user.
@@ -53,6 +56,7 @@ private:
     std::unique_ptr<ApplicationServices> services_;
     std::unique_ptr<AppDelegate> delegate_;
     ApplicationLifecycle lifecycle_;
+    DesktopSettings desktopSettings_;
     std::unique_ptr<UserInterface> userInterface_;
     QSize initialSize_;
 };

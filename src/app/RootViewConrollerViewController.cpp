@@ -7,6 +7,7 @@
 #include "platform/StringFormat.h"
 #include "platform/StringTables.h"
 #include "platform/UserDefaults.h"
+#include "recipes/FavoritesManager.h"
 #include "store/Keys.h"
 
 #include <array>
@@ -53,8 +54,7 @@ QString refusal(int row)
     if (row == RootViewConrollerViewController::calendarRow &&
         !defaults().valueForKey(Keys::kStartDietDateKey).isValid())
         return localized(QStringLiteral("ошибка календарь"));
-    if (row == RootViewConrollerViewController::favoritesRow &&
-        defaults().stringArrayForKey(Keys::kFavoriteDishesKey).isEmpty())
+    if (row == RootViewConrollerViewController::favoritesRow && FavoritesManager::sharedManager().count() == 0)
         return localized(QStringLiteral("У вас нет избранных рецептов"));
     return {};
 }

@@ -4,7 +4,12 @@
 #include "app/RootViewConrollerViewController.h"
 #include "plan/CalculatorViewController.h"
 #include "plan/CalendarContainerViewController.h"
+#include "plan/DietDayDetailViewController.h"
 #include "platform/StringTables.h"
+#include "recipes/CartViewController.h"
+#include "recipes/DishesCategoriesViewController.h"
+#include "recipes/FavoritesViewController.h"
+#include "recipes/IngredientsViewController.h"
 
 #include <array>
 #include <utility>
@@ -27,28 +32,47 @@ struct Entry
     Screen (*tabletContainer)(Screen screen) = nullptr;
 };
 
+Screen makeAllowedProducts(RootViewConrollerViewController &) { return std::make_unique<IngredientsViewController>(); }
+
 Screen makeCalculator(RootViewConrollerViewController &) { return std::make_unique<CalculatorViewController>(); }
 
-Screen makeCalendar(RootViewConrollerViewController &) { return std::make_unique<CalendarViewController>(); }
+Screen makeDay(const QDateTime &date, int period, DietDayDetailViewControllerDelegate *delegate)
+{
+    return std::make_unique<DietDayDetailViewController>(date, period, delegate);
+}
+
+Screen makeCalendar(RootViewConrollerViewController &)
+{
+    return std::make_unique<CalendarViewController>(CalendarScreens{.jornal = {}, .day = makeDay});
+}
+
+Screen makeCart(RootViewConrollerViewController &) { return std::make_unique<CartViewController>(); }
+
+Screen makeDishesCategories(RootViewConrollerViewController &)
+{
+    return std::make_unique<DishesCategoriesViewController>();
+}
+
+Screen makeFavorites(RootViewConrollerViewController &) { return std::make_unique<FavoritesViewController>(); }
 
 Screen calendarContainer(Screen screen)
 {
     auto *calendar = static_cast<CalendarViewController *>(screen.release()); // as makeCalendar() made it
     return std::make_unique<CalendarContainerViewController>(std::unique_ptr<CalendarViewController>(calendar),
-                                                             nullptr);
+                                                             std::make_unique<DietDayDetailViewController>(calendar));
 }
 
 constexpr std::array screens{
     Entry{ScreenName::AboutDiet, u"О Диета Кесто", u"0.png"},
     Entry{ScreenName::DietPhases, u"Этапы диеты", u"1.png"},
-    Entry{ScreenName::AllowedProducts, u"Допустимые продукты", u"2.png"},
-    Entry{ScreenName::DishesCategories, u"Рецепты", u"3.png"},
+    Entry{ScreenName::AllowedProducts, u"Допустимые продукты", u"2.png", makeAllowedProducts},
+    Entry{ScreenName::DishesCategories, u"Рецепты", u"3.png", makeDishesCategories},
     Entry{ScreenName::Calculator, u"Калькулятор веса по Кесто", u"4.png", makeCalculator},
     Entry{ScreenName::Graph, u"График контроля веса", u"5.png"},
     Entry{ScreenName::Calendar, u"Календарь диеты", u"6.png", makeCalendar, calendarContainer},
     Entry{ScreenName::JornalForToday, u"Дневник Диеты", u"7.png"},
-    Entry{ScreenName::Cart, u"Список покупок", u"8.png"},
-    Entry{ScreenName::Favorites, u"Избранные рецепты", u"9.png"},
+    Entry{ScreenName::Cart, u"Список покупок", u"8.png", makeCart},
+    Entry{ScreenName::Favorites, u"Избранные рецепты", u"9.png", makeFavorites},
     Entry{ScreenName::SendDish, u"Отправить рецепт", u"10.png"},
     Entry{ScreenName::UsefulTips, u"Полезные советы", u"11.png"},
     Entry{ScreenName::Info, u"About", u"info_icon.png"},

@@ -26,6 +26,10 @@ QColor Styllesheet::barTitleColor() const { return Qt::white; }
 int Styllesheet::barTitleSize() const { return 18; }
 QColor Styllesheet::tabTitleColor() const { return QColor::fromRgbF(1.0F / 3, 1.0F / 3, 1.0F / 3); }
 QColor Styllesheet::selectedTabTitleColor() const { return Qt::black; }
+QString Styllesheet::fontFamily() const
+{
+    return fontFamily_.isNull() ? QGuiApplication::font().family() : fontFamily_;
+}
 QString Styllesheet::backgroundImage() const { return QStringLiteral("background"); }
 
 QString Styllesheet::chosenFamily(const QStringList &installed)

@@ -40,8 +40,8 @@ public:
     [[nodiscard]] int barTitleSize() const; ///< points
     [[nodiscard]] QColor tabTitleColor() const;
     [[nodiscard]] QColor selectedTabTitleColor() const;
-    /// The first of the wanted fonts that the device has; its default one otherwise.
-    [[nodiscard]] QString fontFamily() const { return fontFamily_; }
+    /// The first of the wanted fonts that the device has; its default one otherwise, or when nothing was customized.
+    [[nodiscard]] QString fontFamily() const;
     /// The family is there in a light cut.
     [[nodiscard]] bool isLightWeight() const { return lightWeight_; }
     /// The image's name; it is repeated over the window.

@@ -4,6 +4,7 @@
 #include "app/RootViewConrollerViewController.h"
 #include "components/AlertCenter.h"
 #include "components/NavigationController.h"
+#include "components/PopoverController.h"
 #include "components/SideMenuContainer.h"
 #include "components/SplitViewController.h"
 #include "components/Window.h"
@@ -49,6 +50,8 @@ void TourGuide::goHome()
 {
     while (ShownAlert *alert = AlertCenter::sharedCenter().current())
         alert->answer(std::max(alert->cancelButtonIndex(), 0));
+    for (PopoverController *popover : window().popovers())
+        popover->dismiss();
     if (ViewController *root = window().rootViewController(); root->presentedViewController() != nullptr)
         root->dismissViewController(false);
     menu().navigationController()->popToRootViewController(false);

@@ -2,7 +2,9 @@
 
 #include "app/RootViewConrollerViewController.h"
 #include "app/TourGuide.h"
+#include "app/TourStopsCart.h"
 #include "app/TourStopsPlan.h"
+#include "app/TourStopsRecipes.h"
 #include "components/BKPasscodeLockScreenManager.h"
 #include "platform/Platform.h"
 #include "platform/UserDefaults.h"
@@ -34,9 +36,10 @@ QList<TourStop> tourStops()
         {QStringLiteral("menu"), [](TourGuide &guide) { guide.openMenu(); }},
         {QStringLiteral("about-diet"), row(0)},
         {QStringLiteral("phases"), row(1)},
-        {QStringLiteral("products"), row(2)},
-        {QStringLiteral("recipes"), row(3)},
     };
+    stops += productTourStops();
+    stops += catalogueTourStops();
+    stops += dishTourStops();
     stops += calculatorTourStops();
     stops += QList<TourStop>{
         {QStringLiteral("graph"), row(5)},
@@ -45,8 +48,13 @@ QList<TourStop> tourStops()
     stops += calendarTourStops();
     stops += QList<TourStop>{
         {QStringLiteral("journal"), row(7)},
-        {QStringLiteral("shopping-list"), row(8)},
+    };
+    stops += cartTourStops();
+    stops += QList<TourStop>{
         {QStringLiteral("no-favourites"), row(9)},
+    };
+    stops += favouriteTourStops();
+    stops += QList<TourStop>{
         {QStringLiteral("send-recipe"), row(10)},
         {QStringLiteral("tips"), row(11)},
         {QStringLiteral("info"), [](TourGuide &guide) { guide.menu().showInfo(); }},

@@ -9,6 +9,7 @@
 #include "model/JornalDay.h"
 #include "plan/CalculatorViewController.h"
 #include "plan/CalendarViewController.h"
+#include "plan/DietDayDetailViewController.h"
 #include "platform/Clock.h"
 #include "platform/Platform.h"
 #include "platform/UserDefaults.h"
@@ -137,6 +138,61 @@ std::function<void(TourGuide &)> calendarAfterMonths(int months)
     };
 }
 
+/// The screen of a day, counted from the first one; beside the calendar or over it.
+DietDayDetailViewController *openDay(TourGuide &guide, int number)
+{
+    CalendarViewController *screen = openCalendar(guide);
+    if (screen == nullptr)
+        return nullptr;
+    const Calendar &calendar = guide.platform().calendar();
+    const QDateTime start = *CoreDataManager::sharedManager().startDietDay();
+    const QDateTime date = calendar.dateByAdding(number, Calendar::Unit::Day, start);
+    const QDate day = calendar.dayOf(date);
+    while (screen->month()->month().daysTo(QDate(day.year(), day.month(), 1)) > 0)
+        screen->nextMonth();
+    screen->touchCell(screen->month()->indexOf(date));
+    screen->openDaySettings();
+    guide.settle();
+    return screenOf<DietDayDetailViewController>(guide);
+}
+
+void dayOfAttack(TourGuide &guide) { (void)openDay(guide, daysSinceStart + 1); }
+
+void dayWithWheels(TourGuide &guide)
+{
+    if (DietDayDetailViewController *screen = openDay(guide, daysSinceStart + 1))
+        screen->displayPickerForIndexPath(
+            {DietDayDetailViewController::DaySection, DietDayDetailViewController::weightRow});
+}
+
+DietDayDetailViewController *openFilledDay(TourGuide &guide)
+{
+    DietDayDetailViewController *screen = openDay(guide, 1);
+    if (screen != nullptr)
+        screen->autoFillDay();
+    return screen;
+}
+
+void dayInEditing(TourGuide &guide)
+{
+    if (DietDayDetailViewController *screen = openFilledDay(guide))
+        screen->setEditing(true);
+}
+
+void quickDish(TourGuide &guide)
+{
+    if (DietDayDetailViewController *screen = openDay(guide, daysSinceStart))
+        screen->selectRow(DietDayDetailViewController::AddSection, DietDayDetailViewController::AddQuickDishRow);
+}
+
+void catalogueForADay(TourGuide &guide)
+{
+    if (DietDayDetailViewController *screen = openDay(guide, daysSinceStart))
+        screen->selectRow(DietDayDetailViewController::AddSection, DietDayDetailViewController::AddDishRow);
+}
+
+void dayOfStabilization(TourGuide &guide) { (void)openDay(guide, attackDays + 60 + 80 + 10); }
+
 } // namespace
 
 QList<TourStop> calculatorTourStops()
@@ -155,6 +211,13 @@ QList<TourStop> calendarTourStops()
         {QStringLiteral("calendar-measures"), calendarOfSecondDay},
         {QStringLiteral("calendar-cruise"), calendarAfterMonths(1)},
         {QStringLiteral("calendar-stabilization"), calendarAfterMonths(6)},
+        {QStringLiteral("day-attack"), dayOfAttack},
+        {QStringLiteral("day-wheels"), dayWithWheels},
+        {QStringLiteral("day-filled"), [](TourGuide &guide) { (void)openFilledDay(guide); }},
+        {QStringLiteral("day-editing"), dayInEditing},
+        {QStringLiteral("day-quick-dish"), quickDish},
+        {QStringLiteral("day-catalogue"), catalogueForADay},
+        {QStringLiteral("day-stabilization"), dayOfStabilization},
     };
 }
 

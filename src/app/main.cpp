@@ -4,7 +4,6 @@
 #include "app/Tour.h"
 
 #include <QGuiApplication>
-#include <QQuickStyle>
 #include <QTextStream>
 
 #include <memory>
@@ -96,7 +95,6 @@ int main(int argc, char **argv)
         const QCoreApplication application(onlyName, argv);
         return kesto::runTour(line);
     }
-    QQuickStyle::setStyle(QStringLiteral("Basic"));
     const QGuiApplication application(onlyName, argv);
     QGuiApplication::setDesktopFileName(QStringLiteral("kesto"));
     return line.action == CommandLine::Action::Tour ? kesto::runTourPart(line) : run(line);

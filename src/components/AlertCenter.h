@@ -22,6 +22,7 @@ class ShownAlert : public QObject
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QString message READ message CONSTANT)
     Q_PROPERTY(QString anchor READ anchor CONSTANT)
+    Q_PROPERTY(QObject *context READ context CONSTANT)
     Q_PROPERTY(QStringList buttonTitles READ buttonTitles CONSTANT)
     Q_PROPERTY(int cancelButtonIndex READ cancelButtonIndex CONSTANT)
     Q_PROPERTY(int destructiveButtonIndex READ destructiveButtonIndex CONSTANT)
@@ -38,6 +39,8 @@ public:
     [[nodiscard]] QString title() const { return alert_.title; }
     [[nodiscard]] QString message() const { return alert_.message; }
     [[nodiscard]] QString anchor() const { return alert_.anchor; }
+    /// The screen that asks; alive when the alert comes up. Null without one.
+    [[nodiscard]] QObject *context() const { return alert_.context; }
     [[nodiscard]] QStringList buttonTitles() const;
     /// −1 without one.
     [[nodiscard]] int cancelButtonIndex() const { return indexOf(Alert::Role::Cancel); }

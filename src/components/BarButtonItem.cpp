@@ -46,6 +46,14 @@ void BarButtonItem::setImage(const QString &image)
     Q_EMIT accessibleNameChanged();
 }
 
+void BarButtonItem::setHighlightedImage(const QString &image)
+{
+    if (highlightedImage_ == image)
+        return;
+    highlightedImage_ = image;
+    Q_EMIT imageChanged();
+}
+
 QString BarButtonItem::accessibleName() const
 {
     if (!accessibleName_.isEmpty())

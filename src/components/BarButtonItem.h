@@ -16,6 +16,7 @@ class BarButtonItem : public QObject
     Q_OBJECT
     Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged)
     Q_PROPERTY(QString image READ image WRITE setImage NOTIFY imageChanged)
+    Q_PROPERTY(QString highlightedImage READ highlightedImage WRITE setHighlightedImage NOTIFY imageChanged)
     Q_PROPERTY(QString accessibleName READ accessibleName NOTIFY accessibleNameChanged)
     Q_PROPERTY(bool enabled READ isEnabled WRITE setEnabled NOTIFY enabledChanged)
     Q_PROPERTY(bool visible READ isVisible WRITE setVisible NOTIFY visibleChanged)
@@ -33,6 +34,9 @@ public:
     /// The name of a picture, with or without extension.
     [[nodiscard]] QString image() const { return image_; }
     void setImage(const QString &image);
+    /// The picture while the button is pressed; null: the same, paler.
+    [[nodiscard]] QString highlightedImage() const { return highlightedImage_; }
+    void setHighlightedImage(const QString &image);
     /// The one that was set, otherwise the title, otherwise the picture's.
     [[nodiscard]] QString accessibleName() const;
     void setAccessibleName(const QString &name);
@@ -55,6 +59,7 @@ Q_SIGNALS:
 private:
     QString title_;
     QString image_;
+    QString highlightedImage_;
     QString accessibleName_;
     bool enabled_ = true;
     bool visible_ = true;

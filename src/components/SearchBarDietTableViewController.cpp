@@ -1,11 +1,19 @@
 #include "components/SearchBarDietTableViewController.h"
 
+#include "components/PopoverController.h"
 #include "platform/StringTables.h"
 
 #include <utility>
 
 namespace kesto
 {
+
+namespace
+{
+
+constexpr QSizeF selectorSize(280, 252); // its five rows
+
+} // namespace
 
 SearchBarDietTableViewController::SearchBarDietTableViewController(QObject *parent)
     : TableViewController(parent)
@@ -30,8 +38,8 @@ void SearchBarDietTableViewController::updateToPeriod(int period)
     currentPeriod_ = period;
     currentItems_ = period == 0 ? QVariantList() : filtedItemsForPeriod(period);
     search();
+    refresh();
     Q_EMIT currentPeriodChanged();
-    reloadData();
 }
 
 QVariantList SearchBarDietTableViewController::filtedItemsForPeriod(int) const { return content_; }
@@ -39,7 +47,7 @@ QVariantList SearchBarDietTableViewController::filtedItemsForPeriod(int) const {
 void SearchBarDietTableViewController::showPeriodSelector(const QString &anchor)
 {
     if (auto selector = makePeriodSelector(currentPeriod_))
-        presentPopover(std::move(selector), anchor);
+        presentPopover(std::move(selector), anchor)->setSizeHint(selectorSize);
 }
 
 std::unique_ptr<ViewController> SearchBarDietTableViewController::makePeriodSelector(int) { return nullptr; }
@@ -51,7 +59,7 @@ void SearchBarDietTableViewController::setSearchText(const QString &text)
     searchText_ = text;
     search();
     Q_EMIT searchChanged();
-    reloadData();
+    refresh();
 }
 
 void SearchBarDietTableViewController::setSearchScope(int scope)
@@ -62,7 +70,7 @@ void SearchBarDietTableViewController::setSearchScope(int scope)
     search();
     Q_EMIT searchChanged();
     if (isSearchActive())
-        reloadData();
+        refresh();
 }
 
 void SearchBarDietTableViewController::search()

@@ -63,6 +63,8 @@ Q_SIGNALS:
     void searchChanged();
 
 protected:
+    /// Shows items() as they are now.
+    virtual void refresh() { reloadData(); }
     /// The items that match; by default none.
     [[nodiscard]] virtual QVariantList searchWithString(const QString &text, int scope) const;
     [[nodiscard]] virtual std::unique_ptr<ViewController> makePeriodSelector(int currentPeriod);

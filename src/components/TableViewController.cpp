@@ -152,17 +152,24 @@ void TableViewController::deleteRowByUser(int section, int row)
         commitDelete(*contentPath({section, row}));
 }
 
-void TableViewController::moveRowByUser(int fromSection, int fromRow, int toSection, int toRow)
+bool TableViewController::canMoveRowByUser(int fromSection, int fromRow, int toSection, int toRow) const
 {
     const IndexPath from{fromSection, fromRow};
     const IndexPath to{toSection, toRow};
     const TableRow *touched = touchedRow(fromSection, fromRow);
     if (!touched || !touched->canMove || !editing_ || from == to || toSection < 0 ||
         toSection >= table_.numberOfSections() || toRow < 0)
-        return;
+        return false;
     const int places = table_.numberOfRowsInSection(toSection) + (fromSection == toSection ? 0 : 1);
-    if (toRow >= places || !canMoveRow(from, to))
+    return toRow < places && canMoveRow(from, to);
+}
+
+void TableViewController::moveRowByUser(int fromSection, int fromRow, int toSection, int toRow)
+{
+    if (!canMoveRowByUser(fromSection, fromRow, toSection, toRow))
         return;
+    const IndexPath from{fromSection, fromRow};
+    const IndexPath to{toSection, toRow};
     table_.moveRow(from, to);
     moveRow(from, to);
 }

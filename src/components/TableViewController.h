@@ -53,6 +53,7 @@ public:
     Q_INVOKABLE void deleteRowByUser(int section, int row);
     /// While editing. To the place that the row has when it was taken out; where canMoveRow() lets it.
     Q_INVOKABLE void moveRowByUser(int fromSection, int fromRow, int toSection, int toRow);
+    Q_INVOKABLE [[nodiscard]] bool canMoveRowByUser(int fromSection, int fromRow, int toSection, int toRow) const;
 
 Q_SIGNALS:
     void editingChanged();

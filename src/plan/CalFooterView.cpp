@@ -146,8 +146,7 @@ void CalFooterView::endEditing(int tag, const QString &text)
 {
     if (!enabled_ || delegate_ == nullptr || tag < 0 || tag >= static_cast<int>(fieldCount))
         return;
-    if (text != fields_[static_cast<size_t>(tag)]->text())
-        delegate_->textFieldDidEndEditing(tag, text);
+    delegate_->textFieldDidEndEditing(tag, text);
 }
 
 void CalFooterView::openJornal()

@@ -82,7 +82,7 @@ public:
     virtual ~CalFooterViewDelegate() = default;
     virtual void dietDayTypeButtonTouched(const CalKindButton &button, const QDateTime &date,
                                           const IndexPath &indexPath) = 0;
-    /// A field was left; tag tells which.
+    /// The user typed into a field and left it; tag tells which.
     virtual void textFieldDidEndEditing(int tag, const QString &text) = 0;
     virtual void openJornal() = 0;
 };

@@ -1,5 +1,6 @@
 #include "plan/CalculatorViewController.h"
 
+#include "components/DayWatch.h"
 #include "plan/BodyCalculation.h"
 #include "plan/PhaseSpans.h"
 #include "plan/TypedNumber.h"
@@ -29,6 +30,10 @@ QString keyOf(CalculatorInput input) { return CalculatorViewController::keys()[0
 CalculatorViewController::CalculatorViewController(QObject *parent)
     : TableViewControllerWithEcternalPicker(parent)
 {
+    connect(&DayWatch::sharedWatch(), &DayWatch::dayChanged, this, [this] {
+        if (isVisible())
+            reloadRow({PhasesSection, phaseBarRow});
+    });
 }
 
 const QList<QStringList> &CalculatorViewController::keys()
@@ -143,11 +148,9 @@ void CalculatorViewController::pickerView(int didSelectRow, int inComponent)
     reloadSection(ResultsSection);
 }
 
-void CalculatorViewController::textFieldDidEndEditing(const IndexPath &path, int tag, const QString &text)
+void CalculatorViewController::textFieldDidEndEditing(const IndexPath &, int tag, const QString &text)
 {
-    // Nothing was typed: what is shown may be in pounds and is rounded, so it must not be taken for the weight.
-    if (text != cellForRow(path).text)
-        textFieldDidEndEditing(tag, text);
+    textFieldDidEndEditing(tag, text);
 }
 
 void CalculatorViewController::textFieldDidEndEditing(int tag, const QString &text)

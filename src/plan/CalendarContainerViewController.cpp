@@ -1,5 +1,7 @@
 #include "plan/CalendarContainerViewController.h"
 
+#include "plan/DietDayDetailViewController.h"
+
 #include <utility>
 
 namespace kesto
@@ -10,13 +12,24 @@ CalendarContainerViewController::CalendarContainerViewController(std::unique_ptr
 {
     calendar->setDayScreen(dynamic_cast<DietDayScreen *>(day.get()));
     setTitle(calendar->title());
-    calendar_ = adopt(std::move(calendar));
+    calendar_ = calendar.get();
+    adopt(std::move(calendar));
     day_ = day != nullptr ? adopt(std::move(day)) : nullptr;
+    auto *screen = qobject_cast<DietDayDetailViewController *>(day_);
+    if (screen == nullptr)
+        return;
+    // The bar above both is this one's.
+    setRightBarButtonItem(screen->editDishesButtonItem());
+    connect(screen, &DietDayDetailViewController::weightChanged, calendar_,
+            [month = calendar_] { month->dietDayDetailViewControllerDidUpdateDay(); });
 }
 
 QList<ViewController *> CalendarContainerViewController::visibleChildren() const
 {
-    return day_ != nullptr ? QList{calendar_, day_} : QList{calendar_};
+    QList<ViewController *> children{calendar_};
+    if (day_ != nullptr)
+        children.append(day_);
+    return children;
 }
 
 } // namespace kesto

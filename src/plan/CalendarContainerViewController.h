@@ -24,8 +24,8 @@ protected:
     [[nodiscard]] QList<ViewController *> visibleChildren() const override;
 
 private:
-    ViewController *calendar_; // owned
-    ViewController *day_;      // owned
+    CalendarViewController *calendar_; // owned
+    ViewController *day_;              // owned
 };
 
 } // namespace kesto

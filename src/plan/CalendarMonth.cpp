@@ -79,7 +79,6 @@ QList<CalendarCell> CalendarMonth::makeCells() const
     FetchRequest request;
     request.predicate = attribute("date") >= calendar.startOfDay(first) &&
                         attribute("date") < calendar.startOfDay(first.addDays(shown));
-    request.relationshipKeyPathsForPrefetching = {"jornalDay"};
     QHash<QDateTime, const DietDay *> records;
     for (const DietDay *day : CoreDataManager::sharedManager().managedObjectContext()->fetch<DietDay>(request)) {
         if (day->date())
@@ -158,6 +157,22 @@ QStringList CalendarMonth::weekdayTitles() const
 int CalendarMonth::indexOf(const QDateTime &date) const
 {
     const auto found = std::find_if(cells_.begin(), cells_.end(), [&](const auto &cell) { return cell.date == date; });
+    return found == cells_.end() ? -1 : static_cast<int>(found - cells_.begin());
+}
+
+int CalendarMonth::walk(int from, int days)
+{
+    if (cells_.isEmpty())
+        return -1;
+    const QDate day = cells_[std::clamp(from, 0, static_cast<int>(cells_.size()) - 1)].day.addDays(days);
+    if (day < cells_.first().day || day > cells_.last().day)
+        showMonth(day);
+    return static_cast<int>(cells_.first().day.daysTo(day));
+}
+
+int CalendarMonth::indexOfToday() const
+{
+    const auto found = std::find_if(cells_.begin(), cells_.end(), [](const auto &cell) { return cell.today; });
     return found == cells_.end() ? -1 : static_cast<int>(found - cells_.begin());
 }
 

@@ -81,6 +81,10 @@ public:
     [[nodiscard]] int selectedIndex() const { return indexOf(selectedDate_); }
     [[nodiscard]] const QList<CalendarCell> &cells() const { return cells_; }
     [[nodiscard]] int indexOf(const QDateTime &date) const;
+    /// The position of the day some days on from that of another position; turns to its month when it is not shown.
+    Q_INVOKABLE int walk(int from, int days);
+    /// −1 when today is not shown.
+    [[nodiscard]] Q_INVOKABLE int indexOfToday() const;
     /// Week and column of a cell.
     [[nodiscard]] static IndexPath indexPathOf(int index) { return {index / daysPerWeek, index % daysPerWeek}; }
 

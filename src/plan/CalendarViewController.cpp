@@ -1,5 +1,6 @@
 #include "plan/CalendarViewController.h"
 
+#include "components/DayWatch.h"
 #include "components/NavigationController.h"
 #include "model/DietDay.h"
 #include "model/Dish.h"
@@ -24,6 +25,8 @@ namespace kesto
 namespace
 {
 
+constexpr int beforeStart = -1; // the phase of a day that has none
+
 ManagedObjectContext &context() { return *CoreDataManager::sharedManager().managedObjectContext(); }
 
 QDateTime today() { return mn_beginningOfDay(Platform::current().clock().now()); }
@@ -38,6 +41,10 @@ int periodOf(const QDateTime &date)
 CalendarViewController::CalendarViewController(CalendarScreens screens)
     : screens_(std::move(screens))
 {
+    connect(&DayWatch::sharedWatch(), &DayWatch::dayChanged, this, [this] {
+        if (isVisible())
+            showStored();
+    });
 }
 
 void CalendarViewController::viewDidLoad()
@@ -50,11 +57,12 @@ void CalendarViewController::viewDidLoad()
 }
 
 // The journal and the screen of a day may have changed what is shown, and midnight may have passed.
-void CalendarViewController::viewWillAppear()
+void CalendarViewController::viewWillAppear() { showStored(); }
+
+void CalendarViewController::showStored()
 {
     month_.refresh();
-    dietPeriod_ = periodOf(currentDate_);
-    readDay();
+    updateUIForDate(currentDate_, periodOf(currentDate_));
 }
 
 bool CalendarViewController::calendarView(const QDateTime &shouldSelectDate) const
@@ -83,11 +91,12 @@ void CalendarViewController::touchCell(int index)
 void CalendarViewController::updateUIForDate(const QDateTime &date, int dietPeriod)
 {
     currentDate_ = date;
-    dietPeriod_ = dietPeriod;
+    // Phases of a negative length leave the days before the start in the last one.
+    dietPeriod_ = CalendarMonth::isFromStartOn(date) ? dietPeriod : beforeStart;
     if (dayScreen_ != nullptr) {
         dayScreen_->setDisbledDay(isDayDisabled());
         if (!isDayDisabled())
-            dayScreen_->setDate(date, dietPeriod);
+            dayScreen_->setDate(date, dietPeriod_);
     }
     readDay();
 }

@@ -51,6 +51,7 @@ public:
     [[nodiscard]] CalendarMonth *month() { return &month_; }
     [[nodiscard]] CalFooterView *footer() { return &footer_; }
     [[nodiscard]] QDateTime currentDate() const { return currentDate_; }
+    /// Before the start of the diet.
     [[nodiscard]] bool isDayDisabled() const { return dietPeriod_ < 0; }
     [[nodiscard]] QString periodName() const;
     /// Invalid for a disabled day.
@@ -89,6 +90,7 @@ protected:
     void viewWillAppear() override;
 
 private:
+    void showStored();
     void moveMonth(int count);
     void readDay();
     void removeIfEmpty(DietDay &day);

@@ -30,10 +30,16 @@ float floatValue(const QString &text)
 
 int integerValue(const QString &text)
 {
-    static const QRegularExpression number(QStringLiteral(R"(^\s*([+-]?[0-9]+))"));
-    const double value = beginning(text, number).toDouble(); // exact wherever an int is
-    return static_cast<int>(
-        std::clamp<double>(value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+    const auto isDigit = [](QChar character) { return character >= u'0' && character <= u'9'; };
+    const auto *at = std::find_if_not(text.begin(), text.end(), [](QChar character) { return character.isSpace(); });
+    const bool negative = at != text.end() && *at == u'-';
+    if (negative || (at != text.end() && *at == u'+'))
+        ++at;
+    qint64 value = 0;
+    constexpr qint64 largest = std::numeric_limits<int>::max();
+    for (; at != text.end() && isDigit(*at) && value <= largest; ++at)
+        value = value * 10 + (at->unicode() - u'0');
+    return static_cast<int>(negative ? -std::min(value, largest + 1) : std::min(value, largest));
 }
 
 } // namespace kesto

@@ -12,13 +12,17 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace kesto
 {
 
 class CloudKeyValueStore;
+class Dish;
 class DishesCategory;
+class Ingredient;
 class Platform;
+class PurhaseIngredient;
 
 /// The one owner of the store file, of the object context that every screen works in, and of the settings that the
 /// whole program reads: start of the diet, units, language. Main thread only; the store file is attached in the
@@ -73,6 +77,24 @@ public:
     /// For maintainers: writes every dish in the layout of the catalogue to "recipes.plist" in the documents folder.
     /// False, and a log line, when that failed.
     bool saveRecipesToPlist();
+
+    /// The shopping list, the line that was added last first. What can't be saved stays to be saved with the next
+    /// change, here and in the following.
+    [[nodiscard]] std::vector<PurhaseIngredient *> purhaseIngredients();
+    /// The line of the product of an ingredient's name, or null.
+    [[nodiscard]] PurhaseIngredient *purchaseIngredintWithIng(const Ingredient &ingredient);
+    /// Puts a product on top of the list, once a name; a quantity behind " - " is left out. A text that begins with a
+    /// hyphen is a remark and adds nothing.
+    void addIngredientToCard(const QString &text);
+    /// Deletes a line, and its product unless a dish needs it.
+    void removePurchaseIngredientFromCard(PurhaseIngredient &line);
+    /// The same with every line, and one save at the end.
+    void removeAllPurchaseIngredientsFromCard();
+
+    /// Dishes for a day of a phase, chosen at random: one each from the categories that a day is
+    /// made of, and at the end a second, different one from the first of these. A category without a dish for the
+    /// phase is left out; so is the second dish when there is no other.
+    [[nodiscard]] std::vector<Dish *> autoFilledDishesForPeriod(int period);
 
     /// The phase of a date by the stored plan: −1 before the start, 0 Attack, 1 Cruise, 2 Consolidation, 3
     /// Stabilization.

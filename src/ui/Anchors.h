@@ -15,9 +15,10 @@ class Anchors : public QObject
     QML_SINGLETON
 
 public:
-    /// The visible item below root whose objectName is name; the one that is drawn last of several. Null when there is
-    /// none.
-    Q_INVOKABLE [[nodiscard]] QQuickItem *find(QQuickItem *root, const QString &name) const;
+    /// The visible item below root whose objectName is name; the one that is drawn last of several. Rows of two tables
+    /// have the same names, so the view of the screen (what has it as its "controller") is searched first. Null when
+    /// there is none.
+    Q_INVOKABLE [[nodiscard]] QQuickItem *find(QQuickItem *root, const QString &name, QObject *screen) const;
 };
 
 } // namespace kesto

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
+class QFont;
 class QJSEngine;
 class QQmlEngine;
 
@@ -20,7 +21,8 @@ class Appearance : public QObject
     /// Whether things may move.
     Q_PROPERTY(bool motion READ motion WRITE setMotion NOTIFY motionChanged)
     Q_PROPERTY(bool dark READ isDark WRITE setDark NOTIFY darkChanged)
-    Q_PROPERTY(QString fontFamily READ fontFamily CONSTANT)
+    /// Whether the person uses the keyboard just now, rather than a finger or the mouse.
+    Q_PROPERTY(bool keysInUse READ keysInUse NOTIFY keysInUseChanged)
 
 public:
     explicit Appearance(QObject *parent); // no default: QML would make its own instead of asking create()
@@ -29,26 +31,35 @@ public:
     /// Gives an engine its one before it loads anything; this outlives the engine's objects.
     void giveTo(QQmlEngine &engine);
 
+    /// The text size that the person chose for the whole system, as its font tells it.
+    void followSystem();
+    /// What texts of that font, on a screen of so many dots an inch, are against the usual ones; within the bounds.
+    [[nodiscard]] static qreal textScaleOf(const QFont &font, qreal dotsPerInch);
+
     [[nodiscard]] qreal textScale() const { return textScale_; }
     void setTextScale(qreal scale);
     [[nodiscard]] bool motion() const { return motion_; }
     void setMotion(bool motion);
     [[nodiscard]] bool isDark() const { return dark_; }
     void setDark(bool dark);
+    [[nodiscard]] bool keysInUse() const { return keysInUse_; }
 
-    /// The first of the families that we like which is installed, else the system's.
-    [[nodiscard]] QString fontFamily() const { return fontFamily_; }
+    /// Watches what comes to a window that this is an event filter of.
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
     void textScaleChanged();
     void motionChanged();
     void darkChanged();
+    void keysInUseChanged();
 
 private:
+    void setKeysInUse(bool inUse);
+
     qreal textScale_ = 1;
     bool motion_ = true;
     bool dark_ = false;
-    QString fontFamily_;
+    bool keysInUse_ = false;
 };
 
 } // namespace kesto

@@ -43,7 +43,10 @@ bool UserInterface::load()
          {QStringLiteral("alertCenter"), QVariant::fromValue(&platform_.shared<AlertCenter>())},
          {QStringLiteral("progress"), QVariant::fromValue(&platform_.shared<ProgressIndicator>())}});
     engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Kesto/Main.qml")));
-    return window() != nullptr;
+    if (window() == nullptr)
+        return false;
+    window()->installEventFilter(&appearance_);
+    return true;
 }
 
 QQuickWindow *UserInterface::window() const

@@ -8,11 +8,11 @@ namespace kesto
 ViewLocator::ViewLocator(QObject *parent)
     : QObject(parent)
 {
-    QDirIterator files(QStringLiteral(":/qt/qml/Kesto"), {QStringLiteral("*View.qml"), QStringLiteral("*Cell.qml")},
-                       QDir::Files, QDirIterator::Subdirectories);
+    QDirIterator files(QStringLiteral(":/qt/qml/Kesto"), QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
-        files.next();
-        files_.insert(files.fileInfo().completeBaseName(), QStringLiteral("qrc") + files.filePath());
+        const QString path = files.next();
+        if (path.endsWith(QLatin1String("View.qml")) || path.endsWith(QLatin1String("Cell.qml")))
+            files_.insert(files.fileInfo().completeBaseName(), QStringLiteral("qrc") + path);
     }
 }
 

@@ -5,7 +5,10 @@
 #include "components/NavigationController.h"
 #include "components/SideMenuContainer.h"
 #include "import/UpdatingDatabaseViewController.h"
+#include "model/Dish.h"
+#include "plan/CalendarViewController.h"
 #include "platform/PropertyList.h"
+#include "store/CoreDataManager.h"
 
 namespace kesto::test
 {
@@ -66,7 +69,46 @@ TEST_F(LaunchTest, FirstLaunchOfAPhoneShowsTheCalculatorUnderTheCreationOfTheRec
     EXPECT_EQ(waitScreen()->mode(), 0);
     EXPECT_EQ(waitScreen()->appVersion(), QStringLiteral("1.0"));
     EXPECT_FALSE(mainScreen()->isVisible()) << "the wait screen covers it";
-    EXPECT_FALSE(window().rootViewController()->isTransitionAnimated());
+    EXPECT_FALSE(waitScreen()->isTransitionAnimated());
+}
+
+TEST_F(LaunchTest, StartsUpInOrder)
+{
+    defaults().setValue(QStringLiteral("0412"), Keys::kPasscodeKey);
+    defaults().removeObjectForKey(Keys::kAppVersionKey);
+    QStringList order;
+    const QMetaObject::Connection connections[]{
+        QObject::connect(&window(), &Window::rootViewControllerChanged,
+                         [&] {
+                             order.append(defaults().valueForKey(Keys::kWaterWalskey).isValid() &&
+                                                  !window().backgroundImage().isEmpty()
+                                              ? QStringLiteral("screens over defaults and style")
+                                              : QStringLiteral("screens"));
+                         }),
+        QObject::connect(
+            &window(), &Window::presentedViewControllersChanged,
+            [&] { order.append(waitScreen() != nullptr ? QStringLiteral("wait screen") : QStringLiteral("?")); }),
+        QObject::connect(&window(), &Window::lockScreenChanged, [&] {
+            order.append(
+                QStringLiteral("lock after use %1").arg(defaults().integerForKey(QStringLiteral("kRatingUsesKey"))));
+        })};
+    launch(phone);
+    for (const QMetaObject::Connection &connection : connections)
+        QObject::disconnect(connection);
+    EXPECT_EQ(order, QStringList({QStringLiteral("screens over defaults and style"), QStringLiteral("wait screen"),
+                                  QStringLiteral("lock after use 1")}));
+}
+
+TEST_F(LaunchTest, TheCalendarShowsTheNewDayOnTheReturn)
+{
+    startDiet();
+    launch(phone);
+    CalendarMonth &month = *qobject_cast<CalendarViewController *>(mainScreen())->month();
+    ASSERT_EQ(month.cells()[month.indexOfToday()].day, QDate(2024, 3, 7));
+    delegate_->applicationDidEnterBackground();
+    platform_.clock().advance(86'400);
+    delegate_->applicationWillEnterForeground();
+    EXPECT_EQ(month.cells()[month.indexOfToday()].day, QDate(2024, 3, 8));
 }
 
 TEST_F(LaunchTest, ChecksTheVersionByExactComparison)
@@ -137,6 +179,7 @@ TEST_F(LaunchTest, NotificationsWhileRunningAreAlerts)
                             {{{QStringLiteral("id"), QStringLiteral("4")}}, QStringLiteral("reminder"), true},
                             {{}, QStringLiteral("reminder"), true}};
     launch();
+    (void)CoreDataManager::sharedManager().purhaseIngredients(); // waits for the store, which has something to log
     for (const Case &each : cases) {
         SCOPED_TRACE(each.kind.toStdString());
         platform_.notifications().setApplicationIconBadgeNumber(5);
@@ -198,6 +241,20 @@ TEST_F(LaunchTest, APasscodeLocksAtLaunchAndUntilTheRightOneIsEntered)
     EXPECT_NE(lock(), nullptr);
     enter({9, 9, 9, 9});
     EXPECT_EQ(window().lockScreen(), nullptr);
+}
+
+TEST_F(LaunchTest, WhatIsNotSavedYetIsWhenTheProgramIsLeft)
+{
+    launch();
+    const auto unsaved = [] { return CoreDataManager::sharedManager().managedObjectContext(); };
+    unsaved()->insert<Dish>();
+    delegate_->applicationDidEnterBackground();
+    EXPECT_FALSE(unsaved()->hasChanges());
+    unsaved()->insert<Dish>();
+    delegate_->applicationWillTerminate();
+    EXPECT_FALSE(unsaved()->hasChanges());
+    restart(QStringLiteral("1.0"));
+    EXPECT_EQ(unsaved()->fetch<Dish>().size(), 2U);
 }
 
 TEST_F(LaunchTest, ForegroundAndTerminationWriteTheSettings)

@@ -62,7 +62,7 @@ bool Person::waitsUntilGone(QAccessible::Role role, const QString &name) const
     return waitFor([&] { return !sees(role, name); });
 }
 
-bool Person::touches(QAccessible::Role role, const QString &name) const
+QRect Person::placeAtRest(QAccessible::Role role, const QString &name) const
 {
     QRect before;
     const bool rests = waitFor([&] {
@@ -71,9 +71,74 @@ bool Person::touches(QAccessible::Role role, const QString &name) const
         const QRect now = found != nullptr ? found->rect() : QRect();
         return now.isValid() && std::exchange(before, now) == now;
     });
-    if (rests)
-        QTest::mouseClick(&window_, Qt::LeftButton, {}, window_.mapFromGlobal(before.center()));
-    return rests;
+    return rests ? QRect(window_.mapFromGlobal(before.topLeft()), before.size()) : QRect();
+}
+
+bool Person::touches(QAccessible::Role role, const QString &name) const
+{
+    const QRect place = placeAtRest(role, name);
+    if (place.isValid())
+        QTest::mouseClick(&window_, Qt::LeftButton, {}, place.center());
+    return place.isValid();
+}
+
+bool Person::draws(QAccessible::Role role, const QString &name, const QPoint &along) const
+{
+    const QRect place = placeAtRest(role, name);
+    if (!place.isValid())
+        return false;
+    constexpr int steps = 10;
+    QTest::mousePress(&window_, Qt::LeftButton, {}, place.center());
+    for (int step = 1; step <= steps; ++step)
+        QTest::mouseMove(&window_, place.center() + along * step / steps, 10);
+    QTest::mouseRelease(&window_, Qt::LeftButton, {}, place.center() + along, 10);
+    QCoreApplication::processEvents();
+    return true;
+}
+
+bool Person::drags(QAccessible::Role role, const QString &name, QAccessible::Role toRole, const QString &toName) const
+{
+    const QRect from = placeAtRest(role, name);
+    const QRect to = placeAtRest(toRole, toName);
+    return from.isValid() && to.isValid() && draws(role, name, QPoint(0, to.center().y() - from.center().y()));
+}
+
+bool Person::scrollsTo(QAccessible::Role role, const QString &name, QPointF place) const
+{
+    const QPointF at(window_.width() * place.x(), window_.height() * place.y());
+    for (const int turn : {-120, 120}) {
+        for (int i = 0; i < 60; ++i) {
+            if (sees(role, name))
+                return true;
+            QWheelEvent event(at, window_.mapToGlobal(at), {}, QPoint(0, turn), Qt::NoButton, Qt::NoModifier,
+                              Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(&window_, &event);
+            QTest::qWait(20);
+        }
+    }
+    return false;
+}
+
+void Person::types(const QString &text) const
+{
+    for (const QChar letter : text) {
+        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(type, Qt::Key_unknown, Qt::NoModifier, QString(letter));
+            QCoreApplication::sendEvent(&window_, &event);
+        }
+    }
+    QCoreApplication::processEvents();
+}
+
+QList<QRect> Person::places(QAccessible::Role role) const
+{
+    QList<QRect> found;
+    search([&](QAccessibleInterface &one) {
+        if (one.role() == role)
+            found.append(QRect(window_.mapFromGlobal(one.rect().topLeft()), one.rect().size()));
+        return false;
+    });
+    return found;
 }
 
 void Person::presses(Qt::Key key, Qt::KeyboardModifiers modifiers) const

@@ -1,18 +1,14 @@
-#include "app/Person.h"
-#include "app/Program.h"
+#include "app/WindowFixture.h"
 #include "model/Dish.h"
 #include "platform/Platform.h"
 #include "platform/UserDefaults.h"
 #include "platform/objectgraph/ManagedObjectContext.h"
 #include "store/CoreDataManager.h"
 #include "store/Keys.h"
-#include "support/LogCapture.h"
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
 #include <QQuickWindow>
-#include <QTemporaryDir>
 
 #include <algorithm>
 
@@ -22,36 +18,7 @@ namespace kesto::test
 namespace
 {
 
-class WindowTest : public testing::Test
-{
-protected:
-    /// A start of the program; the data stay from one to the next.
-    void start(Device device, const QSize &size)
-    {
-        program_.reset();
-        QString error;
-        program_ = Program::start({.dataFolder = root_.filePath(QStringLiteral("data")),
-                                   .resourcesFolder = QStringLiteral(KESTO_SHARE),
-                                   .language = QStringLiteral("ru"),
-                                   .device = device,
-                                   .size = size},
-                                  &error);
-        ASSERT_NE(program_, nullptr) << error.toStdString();
-        program_->view().requestActivate();
-    }
-    void TearDown() override
-    {
-        program_.reset();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        const QStringList complaints = log_.take().filter(QStringLiteral("interface: "));
-        EXPECT_TRUE(complaints.isEmpty()) << complaints.join(u'\n').toStdString();
-    }
-    [[nodiscard]] Person person() { return Person(program_->view()); }
-
-    LogCapture log_;
-    QTemporaryDir root_;
-    std::unique_ptr<Program> program_;
-};
+using WindowTest = WindowFixture;
 
 const QString preparing = QStringLiteral("Готовим базу рецептов…");
 const QString calculator = QStringLiteral("Калькулятор веса по Кесто");

@@ -2,12 +2,10 @@
 
 #include <QAccessible>
 #include <QGuiApplication>
-#include <QQuickStyle>
 
 int main(int argc, char **argv)
 {
     testing::InitGoogleMock(&argc, argv);
-    QQuickStyle::setStyle(QStringLiteral("Basic"));
     QCoreApplication::setApplicationVersion(QStringLiteral("1.0"));
     const QGuiApplication application(argc, argv);
     QAccessible::setActive(true);

@@ -44,12 +44,16 @@ protected:
     {
         LogCapture log;
         screen.timer().setInterval(0);
+        finish();
+        return log.take();
+    }
+    static void finish()
+    {
         QElapsedTimer waited;
         waited.start();
         while (!Window::sharedWindow().presentedViewControllers().isEmpty() && !waited.hasExpired(10'000))
             QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
         EXPECT_TRUE(Window::sharedWindow().presentedViewControllers().isEmpty());
-        return log.take();
     }
 
     void writeCatalogue(const QVariantList &recipes)
@@ -85,6 +89,27 @@ TEST_F(UpdatingDatabaseTest, WaitsHalfASecondThenImportsRecordsTheVersionAndLeav
     EXPECT_EQ(dishCount(), 2U);
     EXPECT_EQ(storedVersion(), QVariant(QStringLiteral("1.2")));
     EXPECT_EQ(versionOnDisk(), QVariant(QStringLiteral("1.2"))) << "not left to the next turn of the event loop";
+}
+
+TEST_F(UpdatingDatabaseTest, TheVersionIsRecordedOnlyWhenTheImportIsOver)
+{
+    static QStringList moments;
+    moments.clear();
+    writeCatalogue({record(QStringLiteral("1"), QStringLiteral("a"))});
+    UpdatingDatabaseViewController &screen = present(QStringLiteral("1.2"));
+    screen.timer().setInterval(0);
+    const QtMessageHandler before =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &line) {
+            if (line.endsWith(QStringLiteral(" parsing")))
+                moments.append(line + (Platform::current().userDefaults().valueForKey(Keys::kAppVersionKey).isValid()
+                                           ? QStringLiteral(": recorded")
+                                           : QStringLiteral(": not recorded")));
+        });
+    finish();
+    qInstallMessageHandler(before);
+    EXPECT_EQ(moments, QStringList({QStringLiteral("start parsing: not recorded"),
+                                    QStringLiteral("end parsing: not recorded")}));
+    EXPECT_EQ(storedVersion(), QVariant(QStringLiteral("1.2")));
 }
 
 TEST_F(UpdatingDatabaseTest, AnImportThatWasCutShortIsDoneAtTheNextStart)

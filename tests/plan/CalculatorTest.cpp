@@ -171,7 +171,6 @@ TEST(Calculator, StoresPicksAndForgetsTheWantedWeight)
         EXPECT_EQ(screen.pickerIndexPath(), (IndexPath{0, 2}));
         pick(screen, Input::Height, {80});
         pick(screen, Input::Age, {11});
-        // The wheels weigh the new body against the weight that was wanted for the old one; only then it changes.
         EXPECT_EQ(details(screen, 0), texts({"21 год", "Мужской", "100.5 кг", "180.0 см", "Среднее"}));
         EXPECT_EQ(screen.idealWeidht(), 75);
         EXPECT_EQ(screen.wantedWeight(), 75);
@@ -194,6 +193,22 @@ TEST(Calculator, StoresPicksAndForgetsTheWantedWeight)
     EXPECT_EQ(details(again, 0), texts({"21 год", "Мужской", "100.5 кг", "180.0 см", "Среднее"}))
         << "the wrist starts at its middle";
     EXPECT_EQ(again.wantedWeight(), 75);
+}
+
+TEST(Calculator, WeighsAPickAgainstTheWeightThatWasWantedBefore)
+{
+    PlanFixture program;
+    CalculatorViewController screen;
+    screen.loadViewIfNeeded();
+    screen.endEditingText(1, 3, QStringLiteral("55"));
+    pick(screen, Input::Weight, {60, 0});
+    EXPECT_EQ(screen.difWeight(), 45);
+    EXPECT_EQ(screen.period1(), 7);
+    EXPECT_EQ(screen.period2(), 315);
+    EXPECT_EQ(screen.period3(), 450);
+    EXPECT_EQ(screen.wantedWeight(), 62) << "the new ideal weight counts from the next calculation on";
+    EXPECT_EQ(details(screen, 1).mid(2), texts({"62 кг", "62 кг", "45.0 кг"}));
+    EXPECT_EQ(details(screen, 2), texts({"7 дн.", "315 дн.", "450 дн."}));
 }
 
 TEST(Calculator, OpensTheWheelsWhereTheValuesAre)
@@ -258,13 +273,28 @@ TEST(Calculator, TakesATypedWeightAsKilogramsInPoundsToo)
     PlanFixture program({}, false);
     CalculatorViewController screen;
     screen.loadViewIfNeeded();
+    ASSERT_EQ(screen.cellForRow({1, 3}).text, QStringLiteral("137"));
     screen.endEditingText(1, 3, QStringLiteral("137"));
-    EXPECT_EQ(screen.wantedWeight(), 62) << "a field that was left as it was is no edit";
+    EXPECT_EQ(screen.wantedWeight(), 137) << "whoever types what is on show means it";
     screen.endEditingText(1, 3, QStringLiteral("50"));
     EXPECT_EQ(screen.wantedWeight(), 50);
     EXPECT_EQ(screen.cellForRow({1, 3}).text, QStringLiteral("110"));
     EXPECT_EQ(screen.difWeight(), 10);
     EXPECT_EQ(screen.period1(), 4);
+}
+
+TEST(Calculator, TakesATypedWeightThatEqualsTheRoundedOne)
+{
+    PlanFixture program;
+    CalculatorViewController screen;
+    screen.loadViewIfNeeded();
+    screen.endEditingText(1, 3, QStringLiteral("74.6"));
+    ASSERT_EQ(screen.cellForRow({1, 3}).text, QStringLiteral("75"));
+    EXPECT_EQ(screen.period2(), -102);
+    screen.endEditingText(1, 3, QStringLiteral("75"));
+    EXPECT_EQ(screen.wantedWeight(), 75);
+    EXPECT_EQ(screen.difWeight(), -15);
+    EXPECT_EQ(screen.period2(), -105);
 }
 
 TEST(Calculator, BarFollowsEveryEdit)
@@ -283,6 +313,21 @@ TEST(Calculator, BarFollowsEveryEdit)
     EXPECT_EQ(bar(), texts({"7 Mar – 9 Mar", "10 Mar – 13 Apr", "14 Apr – 2 Jun", "3 Jun – …"}));
     screen.endEditingText(2, 1, QStringLiteral("1"));
     EXPECT_EQ(bar(), texts({"7 Mar – 9 Mar", "10 Mar", "11 Mar – 29 Apr", "30 Apr – …"}));
+}
+
+TEST(Calculator, BarBeginsWithTheNewDayAfterMidnight)
+{
+    PlanFixture program(inLanguage("en"));
+    auto made = std::make_unique<CalculatorViewController>();
+    CalculatorViewController &screen = *made;
+    const auto first = [&] {
+        return screen.table()->rowAt({2, 3}).value.toList().value(0).toMap()[QStringLiteral("dates")].toString();
+    };
+    const InWindow shown(std::move(made));
+    ASSERT_EQ(first(), QStringLiteral("7 Mar – 8 Mar"));
+    program.platform.clock().set(program.dayStart(2024, 3, 8));
+    DayWatch::sharedWatch().look();
+    EXPECT_EQ(first(), QStringLiteral("8 Mar – 9 Mar"));
 }
 
 } // namespace

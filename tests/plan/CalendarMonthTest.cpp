@@ -38,6 +38,41 @@ TEST(CalendarMonth, ShowsWholeWeeksFromTheUsersFirstWeekday)
     }
 }
 
+TEST(CalendarMonth, WalksOverItsEdgesIntoTheNextMonths)
+{
+    PlanFixture program;
+    CalendarMonth model;
+    EXPECT_EQ(model.walk(0, 1), -1) << "no month is shown";
+    struct Step
+    {
+        QDate from; // in March 2024, which is shown from 26 February to 31 March
+        int days;
+        QDate month;
+    };
+    const QDate february(2024, 2, 1);
+    const QDate march(2024, 3, 1);
+    const QDate april(2024, 4, 1);
+    for (const Step &step : std::initializer_list<Step>{{QDate(2024, 3, 7), 1, march},
+                                                        {QDate(2024, 3, 1), -1, march},
+                                                        {QDate(2024, 3, 4), -7, march},
+                                                        {QDate(2024, 2, 26), -1, february},
+                                                        {QDate(2024, 2, 29), -7, february},
+                                                        {QDate(2024, 3, 3), -7, february},
+                                                        {QDate(2024, 3, 31), 1, april},
+                                                        {QDate(2024, 3, 25), 7, april},
+                                                        {QDate(2024, 3, 31), 7, april}}) {
+        model.showMonth(march);
+        const int arrived = model.walk(model.indexOf(program.calendar().startOfDay(step.from)), step.days);
+        ASSERT_TRUE(arrived >= 0 && arrived < model.cells().size());
+        EXPECT_EQ(model.cells()[arrived].day, step.from.addDays(step.days));
+        EXPECT_EQ(model.month(), step.month) << step.from.toString().toStdString() << ' ' << step.days;
+    }
+    model.showMonth(march);
+    EXPECT_EQ(model.cells()[model.indexOfToday()].day, QDate(2024, 3, 7));
+    model.showMonth(QDate(2024, 5, 1));
+    EXPECT_EQ(model.indexOfToday(), -1);
+}
+
 TEST(CalendarMonth, NumbersWeekdays)
 {
     // Sunday is 1: (1 + first weekday − 1) mod 7, and so on.

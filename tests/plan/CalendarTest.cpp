@@ -6,7 +6,9 @@
 #include "model/JornalDay.h"
 #include "plan/CalendarContainerViewController.h"
 #include "plan/DietPeriodsSelector.h"
-#include "plan/PeriodSelectorViewController.h"
+#include "recipes/PeriodSelectorViewController.h"
+
+#include <QTest>
 
 namespace kesto::test
 {
@@ -174,7 +176,7 @@ TEST(Calendar, MeasuresAreStoredAsTyped)
         at.open();
         EXPECT_EQ(at.fields()[0], QStringLiteral("68.0389"));
         at.footer().endEditing(0, QStringLiteral("68.0389"));
-        EXPECT_EQ(at.record(7)->weight(), 150 * 0.45359236F) << "a field that was left as it was is no edit";
+        EXPECT_EQ(at.record(7)->weight(), 68.0389F) << "whoever types what is on show means it";
 
         int told = 0;
         QObject::connect(at.footer().fields()[1], &CalFooterField::textChanged, [&] { ++told; });
@@ -222,6 +224,68 @@ TEST(Calendar, NothingIsRecordedBeforeTheStart)
     EXPECT_TRUE(at.program.days().isEmpty());
     at.touch(20);
     EXPECT_FALSE(at.screen->isDayDisabled());
+}
+
+// Who weighs less than the ideal gets phases of negative length: all days count as Stabilization then, those before the
+// start too.
+TEST(Calendar, NothingIsRecordedBeforeAStartWithNegativePhases)
+{
+    Calendar7March at;
+    {
+        TestShell shell;
+        CalculatorViewController calculator;
+        calculator.loadViewIfNeeded();
+        calculator.startDietOn(at.march(14));
+        ASSERT_EQ(calculator.period3(), -20);
+    }
+    const QStringList attack = at.program.days();
+    ASSERT_EQ(attack.size(), 2);
+
+    int opened = 0;
+    const auto count = [&opened] {
+        ++opened;
+        return std::make_unique<ViewController>();
+    };
+    auto made = std::make_unique<CalendarViewController>(
+        CalendarScreens{.jornal = [&](const QDateTime &) { return count(); },
+                        .day = [&](const QDateTime &, int, DietDayDetailViewControllerDelegate *) { return count(); }});
+    CalendarViewController &screen = *made;
+    const InWindow shown(std::make_unique<NavigationController>(std::move(made)));
+    ASSERT_EQ(CoreDataManager::dietPeriodForCalendar(at.program.calendar(), at.march(7)), 3);
+    EXPECT_TRUE(screen.isDayDisabled());
+    EXPECT_TRUE(screen.periodName().isNull());
+    EXPECT_FALSE(screen.footer()->isEnabled());
+    screen.footer()->buttonTouched(2);
+    screen.footer()->endEditing(0, QStringLiteral("70"));
+    screen.footer()->openJornal();
+    screen.openDaySettings();
+    EXPECT_EQ(opened, 0);
+    EXPECT_EQ(at.program.days(), attack);
+
+    screen.touchCell(screen.month()->indexOf(at.march(14)));
+    EXPECT_FALSE(screen.isDayDisabled());
+    EXPECT_TRUE(screen.footer()->isEnabled());
+    screen.openDaySettings();
+    EXPECT_EQ(opened, 1);
+}
+
+TEST(Calendar, FollowsMidnightWhileItIsSeen)
+{
+    Calendar7March at;
+    const auto today = [](CalendarViewController &screen) {
+        const int index = screen.month()->indexOfToday();
+        return index < 0 ? QDate() : screen.month()->cells()[index].day;
+    };
+    at.program.platform.clock().set(at.march(8).addMSecs(-20));
+    DayWatch::sharedWatch().look(); // it was to look again much later
+    auto made = std::make_unique<CalendarViewController>();
+    CalendarViewController &screen = *made;
+    const InWindow shown(std::move(made));
+    ASSERT_EQ(today(screen), QDate(2024, 3, 7));
+    at.program.platform.clock().advanceMSecs(20);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return today(screen) == QDate(2024, 3, 8); }));
+    EXPECT_EQ(screen.currentDate(), at.march(7)) << "what the user looks at stays";
+    EXPECT_EQ(today(*at.screen), QDate(2024, 3, 7)) << "nobody sees this one";
 }
 
 TEST(Calendar, ListsTheDishesOfTheDayInTheirOrder)
@@ -295,9 +359,11 @@ TEST(Calendar, LoadsTheDayBesideItOnATablet)
     EXPECT_EQ(screen.month()->cells()[screen.month()->indexOf(at.march(8))].kind, QStringLiteral("Ч/Б"));
     EXPECT_TRUE(screen.footer()->kindButtons()[0]->isSelected());
 
-    at.program.storePlan(at.march(20), 3, 10, 10);
-    screen.updateUIForDate(at.march(7), -1);
+    at.program.storePlan(at.march(20), 2, -14, -20);
+    const auto told = beside.told.size();
+    screen.updateUIForDate(at.march(7), 3);
     EXPECT_TRUE(beside.disbledDay);
+    EXPECT_EQ(beside.told.size(), told) << "nothing of such a day is loaded";
 }
 
 TEST(Calendar, OpensTheJournalAndTheDayOnThePhone)

@@ -1,6 +1,7 @@
 #include "PlanFixture.h"
 
 #include "model/JornalDay.h"
+#include "platform/PropertyList.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -126,6 +127,33 @@ TEST(DietStart, AsksBeforeEarlierDaysGo)
     EXPECT_EQ(program.days(), texts({"2024-03-07 00:00 chB", "2024-03-08 00:00 chB"}));
     EXPECT_FALSE(program.weight(program.dayStart(2024, 3, 7)).has_value());
     EXPECT_EQ(program.weight(program.dayStart(2024, 3, 8)), 78);
+}
+
+TEST(DietStart, KeepsTheDayAtThePickedMomentItself)
+{
+    Start start;
+    PlanFixture &program = start.program;
+    const QDateTime first = program.dayStart(2024, 3, 10);
+    program.weigh(first, 77);
+    start.startOn(first);
+    EXPECT_EQ(Start::alert(), nullptr) << "it is no earlier day";
+    EXPECT_NE(start.shell->calendar, nullptr);
+    EXPECT_EQ(program.days(), texts({"2024-03-10 00:00 chB", "2024-03-11 00:00 chB"}));
+    EXPECT_EQ(program.weight(first), 77);
+}
+
+TEST(DietStart, ThePlanIsOnDiskAtOnce)
+{
+    Start start;
+    const QDateTime first = start.program.dayStart(2024, 3, 10);
+    start.screen->startDietOn(first);
+    // No event loop has turned since: what would be written then is not there yet.
+    const QVariantMap stored = PropertyList::read(start.program.platform.defaultsPath()).value_or(QVariant()).toMap();
+    EXPECT_EQ(stored[Keys::kStartDietDateKey].toDateTime(), first);
+    EXPECT_EQ(stored[Keys::kPeriod1Key], QVariant(2LL));
+    EXPECT_EQ(stored[Keys::kPeriod2Key], QVariant(-14LL));
+    EXPECT_EQ(stored[Keys::kPeriod3Key], QVariant(-20LL));
+    EXPECT_EQ(stored[Keys::kIdealWidth].toFloat(), 62);
 }
 
 TEST(DietStart, RestartKeepsLaterDaysAndEveryJournal)

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "components/AlertCenter.h"
+#include "components/DayWatch.h"
 #include "components/Shell.h"
+#include "components/Window.h"
 #include "plan/CalculatorViewController.h"
 #include "plan/CalendarViewController.h"
 #include "store/StoreFixture.h"
@@ -71,6 +73,23 @@ public:
     }
 
     std::unique_ptr<CalendarViewController> calendar;
+};
+
+/// The user sees this screen while this lives.
+class InWindow
+{
+public:
+    explicit InWindow(std::unique_ptr<ViewController> screen)
+    {
+        Window::sharedWindow().setRootViewController(std::move(screen));
+    }
+    ~InWindow()
+    {
+        Window::sharedWindow().setRootViewController(nullptr);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    InWindow(const InWindow &) = delete;
+    InWindow &operator=(const InWindow &) = delete;
 };
 
 /// The texts at the right of a section's rows.

@@ -2,7 +2,6 @@
 
 #include "support/Printing.h"
 
-#include <QMutex>
 #include <QStringList>
 
 namespace kesto::test
@@ -25,7 +24,6 @@ private:
     static void handle(QtMsgType type, const QMessageLogContext &context, const QString &message);
 
     QtMessageHandler previous_;
-    mutable QMutex mutex_;
     QStringList lines_;
 };
 

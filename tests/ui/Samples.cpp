@@ -2,6 +2,12 @@
 
 #include "components/PopoverController.h"
 #include "platform/Platform.h"
+#include "platform/UserDefaults.h"
+#include "store/CoreDataManager.h"
+#include "store/Keys.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
 
 namespace kesto::test
 {
@@ -40,6 +46,35 @@ SampleList *Samples::openList()
     auto list = std::make_unique<SampleList>();
     SampleList *made = list.get();
     arrange(std::move(list));
+    return made;
+}
+
+SplitViewController *Samples::openSplit()
+{
+    auto split =
+        std::make_unique<SplitViewController>(std::make_unique<NavigationController>(std::make_unique<SampleList>()),
+                                              std::make_unique<NavigationController>(std::make_unique<SampleTable>()));
+    SplitViewController *made = split.get();
+    appWindow()->setRootViewController(std::move(split));
+    return made;
+}
+
+CalendarViewController *Samples::openCalendar()
+{
+    const QDateTime start = Platform::current().calendar().startOfDay(QDate(2024, 3, 5));
+    UserDefaults &defaults = Platform::current().userDefaults();
+    defaults.setValue(start, Keys::kStartDietDateKey);
+    defaults.setInteger(3, Keys::kPeriod1Key);
+    defaults.setInteger(10, Keys::kPeriod2Key);
+    defaults.setInteger(10, Keys::kPeriod3Key);
+    CoreDataManager::sharedManager().setStartDietDay(start);
+    openTable();
+    auto calendar = std::make_unique<CalendarViewController>(
+        CalendarScreens{.jornal = {}, .day = [](const QDateTime &, int, DietDayDetailViewControllerDelegate *) {
+                            return std::make_unique<SampleTable>();
+                        }});
+    CalendarViewController *made = calendar.get();
+    stack_->pushViewController(std::move(calendar), true);
     return made;
 }
 
@@ -134,6 +169,12 @@ void Samples::askDate(const QDateTime &date)
     show({.title = QStringLiteral("When"),
           .buttons = {{no, Alert::Role::Cancel}, {yes}},
           .dateField = Alert::DateField{.date = date}});
+}
+
+void Samples::repeatKey(QObject *window, int key) const
+{
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+    QCoreApplication::sendEvent(window, &event);
 }
 
 Picker *Samples::picker(const QList<QStringList> &titles, const QList<int> &selected)

@@ -7,7 +7,9 @@
 #include "components/NavigationController.h"
 #include "components/ProgressIndicator.h"
 #include "components/SideMenuContainer.h"
+#include "components/SplitViewController.h"
 #include "components/Window.h"
+#include "plan/CalendarViewController.h"
 
 #include <QtQml/qqmlregistration.h>
 
@@ -37,6 +39,10 @@ public:
     /// A side menu around a stack with a table.
     Q_INVOKABLE kesto::test::SampleTable *openTable(bool longTexts = false);
     Q_INVOKABLE kesto::test::SampleList *openList();
+    /// A list as the menu beside a table.
+    Q_INVOKABLE kesto::SplitViewController *openSplit();
+    /// On a stack over a table, in a plan that starts on 5 March 2024; a day opens as one more table.
+    Q_INVOKABLE kesto::CalendarViewController *openCalendar();
     /// The stack in the centre.
     Q_INVOKABLE kesto::NavigationController *stack() const { return stack_; }
     Q_INVOKABLE kesto::SideMenuContainer *menu() const { return menu_; }
@@ -52,6 +58,8 @@ public:
     Q_INVOKABLE void askText(const QString &text);   ///< the same with a field
     Q_INVOKABLE void askSheet(const QString &title); ///< a sheet: cancel, keep, delete
     Q_INVOKABLE void askDate(const QDateTime &date);
+    /// What a held key sends to a window again and again.
+    Q_INVOKABLE void repeatKey(QObject *window, int key) const;
     Q_INVOKABLE kesto::Picker *picker(const QList<QStringList> &titles, const QList<int> &selected);
 
 Q_SIGNALS:

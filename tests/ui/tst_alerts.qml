@@ -56,6 +56,39 @@ Item {
             compare(Samples.alertCenter.current, null);
         }
 
+        function test_aKeyThatIsStillHeldDoesNotAnswer_data() {
+            return [
+                { tag: "buttons", ask: () => Samples.ask(), answer: "Yes" },
+                { tag: "a field", ask: () => Samples.askText("so"), answer: "Yes: so" },
+                { tag: "wheels", ask: () => Samples.askDate(new Date(Date.UTC(2024, 2, 7, 12))), answer: "Yes 2024-03-07T12:00:00Z" },
+                { tag: "a sheet", ask: () => Samples.askSheet("What?"), answer: "Keep" },
+            ];
+        }
+        function test_aKeyThatIsStillHeldDoesNotAnswer(data) {
+            for (const key of [Qt.Key_Return, Qt.Key_Enter]) {
+                const before = Samples.answers.length;
+                data.ask();
+                for (let i = 0; i < 3; ++i)
+                    Samples.repeatKey(stage.Window.window, key);
+                compare(Samples.answers.length, before);
+                keyClick(key);
+                compare(Samples.answers.length, before + 1);
+                compare(Samples.answers[before], data.answer);
+            }
+        }
+
+        function test_aFieldKeepsItsTextWhenItIsLeft() {
+            Samples.askText("so");
+            keyClick(Qt.Key_End);
+            keyClick(Qt.Key_B);
+            const field = stage.Window.activeFocusItem;
+            keyClick(Qt.Key_Tab);
+            verify(!field.activeFocus);
+            compare(field.text, "sob");
+            keyClick(Qt.Key_Escape);
+            compare(Samples.answers, ["No: sob"]);
+        }
+
         function test_theKeysReturnToWhereTheyWere() {
             keyClick(Qt.Key_Down);
             const before = stage.Window.activeFocusItem;

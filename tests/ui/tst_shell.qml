@@ -30,6 +30,9 @@ Item {
         }
         function cleanup() {
             Samples.clear();
+            stage.width = 390;
+            stage.height = 844;
+            Appearance.textScale = 1;
         }
         function cleanupTestCase() {
             Appearance.motion = true;
@@ -110,6 +113,53 @@ Item {
                 mouseMove(stage, x, 500, 5);
             mouseRelease(stage, 20, 500);
             verify(!menu.menuOpen);
+        }
+
+        function test_theMenuThatIsAlwaysThereGetsTheKeysAndGivesThemBack() {
+            stage.width = 820;
+            stage.height = 600;
+            const split = Samples.openSplit();
+            stage.forceActiveFocus();
+            wait(20);
+            verify(!split.masterHidden);
+            const [menu, main] = stage.tables().sort((one, other) => one.mapToItem(stage, 0, 0).x - other.mapToItem(stage, 0, 0).x);
+            verify(focusInside(main));
+            keyClick(Qt.Key_M, Qt.ControlModifier);
+            verify(focusInside(menu));
+            keyClick(Qt.Key_M, Qt.ControlModifier);
+            verify(focusInside(main));
+        }
+
+        function test_theMenuOfANarrowTabletIsWideEnough_data() {
+            return [{ width: 320, least: 260 }, { width: 390, least: 280 }, { width: 600, least: 280 }];
+        }
+        function test_theMenuOfANarrowTabletIsWideEnough(data) {
+            stage.width = data.width;
+            const split = Samples.openSplit();
+            verify(split.masterHidden);
+            split.menuPopoverOpen = true;
+            const panel = stage.all(stage, item => item.hasOwnProperty("panelWidth") && item.controller === split)[0];
+            verify(panel.panelWidth >= data.least, "it has " + panel.panelWidth);
+            verify(panel.panelWidth < data.width);
+        }
+
+        Component {
+            id: waitPage
+
+            WaitPage { text: "Updating Dishes Database" }
+        }
+
+        function test_theWaitPageSaysItOnOneLine_data() {
+            return [{ tag: "phone", width: 390, scale: 1 }, { tag: "smallest", width: 320, scale: 1 }, { tag: "200 %", width: 320, scale: 2 }];
+        }
+        function test_theWaitPageSaysItOnOneLine(data) {
+            Appearance.textScale = data.scale;
+            const page = createTemporaryObject(waitPage, scene, { width: data.width, height: 480 });
+            const label = stage.all(page, item => item.hasOwnProperty("lineCount"))[0];
+            compare(label.text, page.text);
+            compare(label.lineCount, 1);
+            verify(!label.truncated);
+            verify(label.paintedWidth <= label.width + 1);
         }
 
         function test_aPresentedScreenCoversAndEscapeLeavesIt() {

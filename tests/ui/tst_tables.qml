@@ -139,7 +139,29 @@ Item {
             keyClick(Qt.Key_X);
             keyClick(Qt.Key_Backtab, Qt.ShiftModifier);
             verify(first.activeFocus);
-            compare(table.heard, ["200: 5", "201: x"]);
+            compare(table.heard, ["201: x"]);
+        }
+
+        function test_onlyWhatWasTypedIsCommitted_data() {
+            return [
+                { tag: "entered and left", type: [], heard: [] },
+                { tag: "the same typed over it", type: [Qt.Key_5], heard: ["200: 5"] },
+                { tag: "typed and taken away", type: [Qt.Key_End, Qt.Key_1, Qt.Key_Backspace], heard: ["200: 5"] },
+                { tag: "typed and brought back", type: [Qt.Key_1, Qt.Key_Escape], heard: [] },
+            ];
+        }
+        function test_onlyWhatWasTypedIsCommitted(data) {
+            for (const leave of [() => keyClick(Qt.Key_Return), () => mouseClick(row(0, 0))]) {
+                table = Samples.openTable();
+                list = stage.tables()[0];
+                wait(20);
+                const field = fieldOf(row(0, 1));
+                mouseClick(field);
+                data.type.forEach(key => keyClick(key));
+                leave();
+                compare(table.heard.filter(line => line !== "selected 0.0"), data.heard);
+                compare(field.text, "5");
+            }
         }
 
         function test_EnterOnARowWithAFieldEditsIt() {
@@ -194,12 +216,28 @@ Item {
         function test_movedByTheHandle() {
             table.editing = true;
             const item = row(2, 0);
+            list.positionViewAtEnd(); // far from the edges
             const from = item.mapToItem(stage, item.width - 34, item.height / 2);
             mousePress(stage, from.x, from.y);
             for (let y = 0; y <= 2 * item.height; y += 8)
                 mouseMove(stage, from.x, from.y + y, 5);
             mouseRelease(stage, from.x, from.y + 2 * item.height);
             compare(table.heard, ["moved 0 to 2"]);
+        }
+
+        function test_theListComesAlongWithARowThatIsCarriedOverItsEdge() {
+            table.editing = true;
+            list.positionViewAtBeginning();
+            const item = row(2, 0);
+            verify(!list.atYEnd);
+            const from = item.mapToItem(stage, item.width - 34, item.height / 2);
+            mousePress(stage, from.x, from.y);
+            mouseMove(stage, from.x, from.y + 40, 5);
+            mouseMove(stage, from.x, stage.height + 10, 5);
+            tryVerify(() => list.atYEnd);
+            mouseRelease(stage, from.x, stage.height + 10);
+            compare(table.heard, ["moved 0 to 3"]);
+            compare(item.lift, 0);
         }
 
         function test_movedByKeys() {
@@ -253,6 +291,32 @@ Item {
                 }
             }
             stage.width = 390;
+        }
+
+        function test_theChosenRowIsTold() {
+            const chosen = () => {
+                const focused = stage.Window.activeFocusItem;
+                verify(!focused.Accessible.ignored);
+                return [focused.Accessible.role, focused.Accessible.name, focused.Accessible.description];
+            };
+            keys(Qt.Key_Home);
+            const first = row(0, 0);
+            compare(chosen(), [Accessible.ListItem, first.title + ", " + first.detail, ""]);
+            keys(Qt.Key_Down);
+            const field = row(0, 1);
+            compare(chosen(), [Accessible.Grouping, field.title, "5 " + field.unit]);
+            verify(first.Accessible.ignored);
+            keys(Qt.Key_Return);
+            verify(fieldOf(field).activeFocus);
+            verify(field.Accessible.ignored, "the field has the keys, and its own name");
+            keys(Qt.Key_7, Qt.Key_Return);
+            compare(chosen()[2], "7 " + field.unit);
+            while (!stage.Window.activeFocusItem.hasOwnProperty("kind") || stage.Window.activeFocusItem.kind !== TableRow.Switch)
+                keys(Qt.Key_Down);
+            compare(chosen()[0], Accessible.CheckBox);
+            verify(stage.Window.activeFocusItem.Accessible.checked);
+            keys(Qt.Key_Space);
+            verify(!stage.Window.activeFocusItem.Accessible.checked);
         }
 
         function test_everyRowHasANameAndARole() {

@@ -42,7 +42,8 @@ std::string Fetcher::columns(const EntityDescription &entity)
 std::vector<ManagedObject *> Fetcher::fetch(const EntityDescription &entity, const FetchRequest &request,
                                             StoreError *error)
 {
-    const bool keysOnly = request.fetchBatchSize > 0;
+    // What is fetched along is found through the values of every row, so those are read at once.
+    const bool keysOnly = request.fetchBatchSize > 0 && request.relationshipKeyPathsForPrefetching.empty();
     const FetchStatement statement(entity, request, keysOnly);
     if (!statement.isValid()) {
         if (error != nullptr)

@@ -30,6 +30,12 @@ FocusScope {
     signal cancelled
     signal edited(string text)
 
+    /*! A key that is held down since before the question came does not answer it. */
+    function enter(event: var): void {
+        if (!event.isAutoRepeat)
+            answered(preferred);
+    }
+
     implicitWidth: Math.round(Tokens.dialogWidth * (1 + (Tokens.textScale - 1) * 0.3))
     implicitHeight: card.height
     Accessible.role: Accessible.AlertMessage
@@ -95,13 +101,16 @@ FocusScope {
                     visible: dialog.hasTextField
                     name: dialog.title
                     placeholderText: dialog.placeholder
-                    text: dialog.text
+                    value: dialog.text
                     inputMethodHints: dialog.keyboard === Keyboard.Decimal ? Qt.ImhFormattedNumbersOnly
                         : dialog.keyboard === Keyboard.Number ? Qt.ImhDigitsOnly
                         : dialog.keyboard === Keyboard.Email ? Qt.ImhEmailCharactersOnly : Qt.ImhNone
-                    onTextEdited: dialog.edited(text)
-                    Keys.onReturnPressed: dialog.answered(dialog.preferred)
-                    Keys.onEnterPressed: dialog.answered(dialog.preferred)
+                    onTextEdited: {
+                        dialog.text = text;
+                        dialog.edited(text);
+                    }
+                    Keys.onReturnPressed: event => dialog.enter(event)
+                    Keys.onEnterPressed: event => dialog.enter(event)
                     Keys.onEscapePressed: dialog.cancelled()
                 }
                 Loader {
@@ -114,8 +123,8 @@ FocusScope {
                         focus: true
                         picker: dialog.picker
                         name: dialog.title
-                        Keys.onReturnPressed: dialog.answered(dialog.preferred)
-                        Keys.onEnterPressed: dialog.answered(dialog.preferred)
+                        Keys.onReturnPressed: event => dialog.enter(event)
+                        Keys.onEnterPressed: event => dialog.enter(event)
                     }
                 }
                 GridLayout {

@@ -5,7 +5,7 @@ import Kesto
 Rectangle {
     id: background
 
-    property string picture: "background"
+    property string picture: Styllesheet.backgroundImage
 
     color: Tokens.colors.page
 

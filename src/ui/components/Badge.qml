@@ -24,6 +24,8 @@ Rectangle {
         anchors.centerIn: parent
         width: Math.min(implicitWidth, badge.width - Tokens.unit)
         text: badge.text
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: Tokens.gap
         elide: Text.ElideRight
         wrapMode: Text.NoWrap
         font.pixelSize: Tokens.textCaption

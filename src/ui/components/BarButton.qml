@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Layouts
 import QtQuick.Templates as T
 import Kesto
 
@@ -8,6 +7,8 @@ T.AbstractButton {
     id: control
 
     property string picture
+    /*! While the button is pressed, if given. */
+    property string pressedPicture
     property string title
     property string name: title
     property bool back: false
@@ -18,34 +19,23 @@ T.AbstractButton {
     leftPadding: Tokens.unit
     rightPadding: Tokens.unit
     focusPolicy: Qt.StrongFocus
-    opacity: !enabled ? 0.45 : down ? 0.5 : 1
+    opacity: !enabled ? 0.45 : down && pressedPicture.length === 0 ? 0.5 : 1
 
     Accessible.role: Accessible.Button
     Accessible.name: name
     Keys.onReturnPressed: control.clicked()
     Keys.onEnterPressed: control.clicked()
 
-    contentItem: RowLayout {
+    contentItem: ButtonContent {
+        picture: control.back ? "chevron_left" : control.down && control.pressedPicture.length > 0 ? control.pressedPicture : control.picture
+        text: control.title
+        ink: control.ink
         spacing: 2
-
-        Icon {
-            Layout.alignment: Qt.AlignCenter
-            visible: control.back || control.picture.length > 0
-            name: control.back ? "chevron_left" : control.picture
-            color: control.ink
-        }
-        Label {
-            Layout.fillWidth: true
-            visible: text.length > 0
-            text: control.title
-            color: control.ink
-            font.pixelSize: Math.min(Tokens.textBody, Tokens.textOfBars)
-            fontSizeMode: Text.HorizontalFit
-            minimumPixelSize: 12
-            wrapMode: Text.NoWrap
-            elide: Text.ElideRight
-            horizontalAlignment: Text.AlignHCenter
-        }
+        label.font.pixelSize: Math.min(Tokens.textBody, Tokens.textOfBars)
+        label.fontSizeMode: Text.HorizontalFit
+        label.minimumPixelSize: 12
+        label.wrapMode: Text.NoWrap
+        label.elide: Text.ElideRight
     }
     background: Item {
         FocusRing {

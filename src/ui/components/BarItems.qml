@@ -17,6 +17,7 @@ Row {
             objectName: "bar/" + (modelData.image.length > 0 ? modelData.image.split(".")[0] : modelData.title)
             width: Math.min(implicitWidth, row.widest)
             picture: modelData.image
+            pressedPicture: modelData.highlightedImage
             title: modelData.image.length > 0 ? "" : modelData.title
             name: modelData.accessibleName
             enabled: modelData.enabled

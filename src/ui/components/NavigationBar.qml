@@ -1,7 +1,7 @@
 import QtQuick
 import Kesto
 
-/*! The light green bar over a screen: the way back, the title, the screen's buttons. */
+/*! The light green bar over a screen: the way back, for which a screen's own button at the left stands in, the title, the screen's buttons. */
 Rectangle {
     id: bar
 
@@ -26,7 +26,7 @@ Rectangle {
 
         readonly property real wide: backText.implicitWidth + Tokens.icon + Tokens.wide
 
-        visible: bar.canGoBack
+        visible: bar.canGoBack && bar.leftItems.length === 0
         anchors.verticalCenter: parent.verticalCenter
         width: implicitWidth
         back: true

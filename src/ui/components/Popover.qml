@@ -22,7 +22,6 @@ FocusScope {
     signal dismissed
 
     anchors.fill: parent
-    Keys.onEscapePressed: dismissed()
 
     Rectangle {
         anchors.fill: parent
@@ -40,7 +39,7 @@ FocusScope {
         width: Tokens.margin
         height: width
         rotation: 45
-        color: popover.below ? Tokens.colors.bar : Tokens.colors.surfaceRaised
+        color: Tokens.colors.surfaceRaised
         x: Math.max(card.x + Tokens.radius, Math.min(card.x + card.width - Tokens.radius - width, popover.target.x + popover.target.width / 2 - width / 2))
         y: popover.below ? card.y - height / 2 + 2 : card.y + card.height - height / 2 - 2
     }
@@ -55,9 +54,8 @@ FocusScope {
             : popover.below ? popover.target.y + popover.target.height + Tokens.unit
             : popover.above ? popover.target.y - Tokens.unit - height
             : (popover.height - height) / 2
+        radius: Tokens.radius
         color: Tokens.colors.surfaceRaised
-        border.width: Tokens.hairline
-        border.color: Tokens.colors.separator
 
         MouseArea {
             anchors.fill: parent
@@ -67,7 +65,7 @@ FocusScope {
             id: inner
 
             anchors.fill: parent
-            anchors.margins: Tokens.hairline
+            anchors.margins: Tokens.half // the corners of what is inside are square
             focus: true
             clip: true
         }

@@ -5,8 +5,10 @@ import Kesto
 Item {
     id: overlay
 
-    property string text
+    required property ProgressIndicator progress
+    readonly property string text: progress.text
 
+    visible: progress.visible
     Accessible.role: Accessible.Indicator
     Accessible.name: text.length > 0 ? text : Texts.localized("Loading")
 

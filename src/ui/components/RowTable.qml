@@ -2,8 +2,9 @@ import QtQuick
 import Kesto
 
 /*!
-    Draws the table of any TableViewController. The keyboard: Up and Down choose a row, Enter and Space touch it, Tab goes from
-    field to field, Delete deletes, Ctrl with Up and Down moves a row while the table is edited.
+    Draws the table of any TableViewController. The keyboard: Up and Down choose a row, Enter touches it, Space does, too, or
+    touches its check button, Tab goes from field to field, Delete deletes, Ctrl with Up and Down moves a row while the table
+    is edited.
 */
 TableBase {
     id: root
@@ -38,9 +39,14 @@ TableBase {
     onTabbed: (line, by, event) => event.accepted = toField(line as TableLine, by)
     onLifted: line => {
         carriedLine = line as TableLine;
+        carriedBy = 0;
+        carriedFrom = (line as TableLine).y - list.contentY;
         target = null;
     }
-    onCarried: (line, by) => carry(line as TableLine, by)
+    onCarried: (line, by) => {
+        carriedBy = by;
+        carry(line as TableLine);
+    }
     onDropped: line => drop(line as TableLine)
     onStepped: (line, by) => step(line as TableLine, by)
 
@@ -92,19 +98,39 @@ TableBase {
         return false;
     }
 
-    // Moving a row: it floats, a line shows where it would go, and the controller hears of it when it is let go.
+    // Moving a row: it floats, a line shows where it would go, and the controller hears of it when it is let go. Beyond
+    // an edge the list comes along.
     property TableLine carriedLine: null
     property TableLine target: null
+    property real carriedBy: 0
+    property real carriedFrom: 0
 
-    function carry(line: TableLine, by: real): void {
-        line.lift = by;
-        const middle = line.y + by + line.height / 2;
-        const under = list.itemAt(list.width / 2, Math.max(0, Math.min(list.contentHeight + list.originY - 1, middle))) as TableLine;
-        target = under && under.isRow && under !== line ? under : null;
+    function carry(line: TableLine): void {
+        line.lift = carriedFrom + carriedBy + list.contentY - line.y;
+        const middle = line.y + line.lift + line.height / 2;
+        const y = Math.max(list.originY, Math.min(list.contentHeight + list.originY - 1, middle));
+        // The place under it, or the nearest on the way there.
+        let i = list.indexAt(list.width / 2, y);
+        target = null;
+        for (const back = i > line.index ? -1 : 1; i >= 0 && i !== line.index && !target; i += back) {
+            const each = list.itemAtIndex(i) as TableLine;
+            if (each && each.isRow && controller.canMoveRowByUser(line.section, line.row, each.section, each.row))
+                target = each;
+        }
+    }
+    function scrollWith(line: TableLine): void {
+        const above = list.contentY - (line.y + line.lift);
+        const below = line.y + line.lift + line.height - (list.contentY + list.height);
+        const by = above > 0 ? -above : below > 0 ? below : 0;
+        const first = list.originY - list.topMargin;
+        const last = Math.max(first, list.originY + list.contentHeight + list.bottomMargin - list.height);
+        list.contentY = Math.max(first, Math.min(last, list.contentY + Math.max(-12, Math.min(12, by / 4))));
+        carry(line);
     }
     function drop(line: TableLine): void {
         const to = target;
         line.lift = 0;
+        carriedBy = 0;
         carriedLine = null;
         target = null;
         if (to)
@@ -128,7 +154,7 @@ TableBase {
         keyNavigationEnabled: false
         highlightFollowsCurrentItem: false
         currentIndex: -1
-        cacheBuffer: 400
+        cacheBuffer: root.carriedLine ? 100000 : 400 // a row that is carried away must not be let go
         boundsBehavior: Flickable.StopAtBounds
         ScrollBar.vertical: ScrollBar {}
         Accessible.role: Accessible.List
@@ -156,8 +182,8 @@ TableBase {
             case Qt.Key_PageDown: root.page(1); break;
             case Qt.Key_PageUp: root.page(-1); break;
             case Qt.Key_Return:
-            case Qt.Key_Enter:
-            case Qt.Key_Space: if (line) line.activate(); break;
+            case Qt.Key_Enter: if (line) line.activate(); break;
+            case Qt.Key_Space: if (line && !line.check()) line.activate(); break;
             case Qt.Key_Delete: if (line) line.remove(); break;
             default: event.accepted = false;
             }
@@ -171,6 +197,12 @@ TableBase {
         for (let i = 0; i < 8 && go(by); ++i);
     }
 
+    Timer {
+        running: root.carriedLine !== null
+        repeat: true
+        interval: 16
+        onTriggered: root.scrollWith(root.carriedLine)
+    }
     Rectangle {
         visible: root.target !== null
         x: root.inset

@@ -7,7 +7,7 @@ T.AbstractButton {
 
     property string picture
     property bool chosen: false
-    readonly property color ink: chosen ? Tokens.colors.text : Tokens.colors.barButton
+    readonly property color ink: chosen ? Tokens.colors.tabTitleChosen : Tokens.colors.tabTitle
 
     implicitHeight: contentItem.implicitHeight + 2 * Tokens.half
     topPadding: Tokens.half

@@ -6,7 +6,7 @@ Rectangle {
     id: page
 
     property string text
-    property string picture: "background"
+    property string picture: Styllesheet.backgroundImage
 
     color: Tokens.colors.bar
     Accessible.role: Accessible.Indicator
@@ -31,6 +31,10 @@ Rectangle {
             color: Tokens.colors.barTitle
             style: Text.Raised
             styleColor: Tokens.colors.barTitleShade
+            wrapMode: Text.NoWrap
+            elide: Text.ElideRight
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 10
             font.pixelSize: Tokens.textLarge
             font.weight: Font.Light
             horizontalAlignment: Text.AlignHCenter

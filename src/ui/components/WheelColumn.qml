@@ -1,12 +1,11 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kesto
 
 /*!
     A wheel of titles of which the middle one is chosen: by dragging, the mouse wheel, a touch on a neighbour, the arrow
     keys, Page Up and Down, Home and End, or by typing how a title begins. A choice that is not taken turns back.
 */
-T.Control {
+Item {
     id: column
 
     required property var titles
@@ -61,7 +60,7 @@ T.Control {
 
     implicitWidth: naturalWidth
     implicitHeight: visibleRows * rowHeight
-    focusPolicy: Qt.StrongFocus
+    activeFocusOnTab: true
     Accessible.role: Accessible.SpinBox
     Accessible.name: name.length > 0 ? name + " " + (titles[current] ?? "") : (titles[current] ?? "")
     Accessible.focusable: true
@@ -164,5 +163,5 @@ T.Control {
             }
         }
     }
-    FocusRing { shown: column.visualFocus }
+    FocusRing { shown: column.activeFocus && Appearance.keysInUse }
 }

@@ -7,23 +7,42 @@ Column {
 
     required property CalFooterView footer
 
+    /*! The keys are free: the last field is filled, or the user left one by Escape. */
+    signal finished
+
+    function next(index: int): void {
+        const row = fields.itemAt(index + 1) as FieldRow;
+        if (row)
+            row.field.forceActiveFocus(Qt.TabFocusReason);
+        else
+            finished();
+    }
+
     spacing: Tokens.unit
 
     Column {
         width: parent.width
 
         Repeater {
+            id: fields
+
+            readonly property real unitWidth: {
+                let widest = 0;
+                for (let i = 0; i < count; ++i)
+                    widest = Math.max(widest, (itemAt(i) as FieldRow)?.naturalUnitWidth ?? 0);
+                return widest;
+            }
+
             model: view.footer.fields
 
             FieldRow {
-                id: row
-
                 required property CalFooterField modelData
                 required property int index
 
                 width: view.width
                 title: modelData.title
                 unit: modelData.unit
+                unitWidth: fields.unitWidth
                 placeholder: modelData.placeholder
                 keyboard: Keyboard.Decimal
                 available: view.footer.enabled
@@ -31,7 +50,7 @@ Column {
                 last: false
                 text: modelData.text
                 onCommitted: text => view.footer.endEditing(modelData.tag, text)
-                onFinished: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+                onFinished: entered => entered ? view.next(index) : view.finished()
                 Component.onCompleted: field.activeFocusOnTab = true
             }
         }
@@ -57,6 +76,7 @@ Column {
                     KindButton {
                         required property CalKindButton modelData
 
+                        width: Math.min(implicitWidth, kinds.width)
                         kind: modelData
                         enabled: view.footer.enabled
                         onClicked: view.footer.buttonTouched(modelData.tag)

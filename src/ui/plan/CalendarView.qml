@@ -9,6 +9,11 @@ FocusScope {
     readonly property bool wide: width > 700 && !controller.hasDayScreen
     readonly property real inset: wide ? Tokens.wide : Math.max(Tokens.margin, (width - Tokens.readableWidth) / 2)
 
+    /*! The month gets the keys; the keyboard on the screen goes with the field's focus. */
+    function takeKeys(): void {
+        month.forceActiveFocus(Qt.OtherFocusReason);
+    }
+
     Background { anchors.fill: parent }
     Flickable {
         id: page
@@ -34,7 +39,7 @@ FocusScope {
                 id: month
 
                 width: content.columnWidth
-                cellHeight: Math.max(Math.round(Tokens.textBody * 2.9), view.wide || view.controller.hasDayScreen ? 64 : 46)
+                cellHeight: Math.max(Math.round(Tokens.textBody * 2.9), view.wide ? 64 : view.controller.hasDayScreen ? (view.height < 900 ? 52 : 64) : 46)
                 focus: true
                 month: view.controller.month
                 onNextRequested: view.controller.nextMonth()
@@ -53,6 +58,7 @@ FocusScope {
                 CalFooter {
                     width: parent.width
                     footer: view.controller.footer
+                    onFinished: view.takeKeys()
                 }
             }
         }
@@ -60,7 +66,7 @@ FocusScope {
     Connections {
         target: view.controller
         function onEditingShouldEnd() {
-            month.forceActiveFocus(Qt.OtherFocusReason); // the keyboard goes with the field's focus
+            view.takeKeys();
         }
     }
     // A field that the keyboard would cover comes into sight.
@@ -68,8 +74,8 @@ FocusScope {
         target: view.Window.window
         function onActiveFocusItemChanged() {
             const item = view.Window.activeFocusItem;
-            if (!item || !(item as TextField))
-                return;
+            if (!view.activeFocus || !(item as TextField))
+                return; // another screen's, a popover's, a dialog's
             const top = item.mapToItem(page.contentItem, 0, 0).y;
             if (top < page.contentY || top + item.height > page.contentY + page.height)
                 page.contentY = Math.max(0, Math.min(page.contentHeight - page.height, top - page.height / 3));

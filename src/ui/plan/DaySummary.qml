@@ -17,7 +17,8 @@ FocusScope {
         ListRow {
             width: parent.width
             title: summary.controller.periodName
-            titleColor: summary.controller.dayDisabled ? Tokens.colors.textQuiet : Qt.darker(summary.controller.periodColor, Appearance.dark ? 1 : 1.25)
+            titleColor: summary.controller.dayDisabled ? Tokens.colors.textQuiet : summary.controller.periodColor
+            titleWeight: Font.Bold // the phase's colour is a light one
             subtitle: summary.controller.dateText
             detail: summary.controller.dayDisabled ? "" : summary.controller.currentWeight
             available: !summary.controller.dayDisabled
@@ -28,6 +29,7 @@ FocusScope {
             current: activeFocus
             onActivated: summary.controller.openDaySettings()
             Keys.onReturnPressed: activated()
+            Keys.onEnterPressed: activated()
             Keys.onSpacePressed: activated()
         }
         Repeater {
@@ -43,7 +45,8 @@ FocusScope {
                 title: modelData
                 first: false
                 last: index + 1 === dishes.count
-                selectable: false
+                selectable: !summary.controller.hasDayScreen
+                onActivated: summary.controller.openDaySettings()
             }
         }
     }

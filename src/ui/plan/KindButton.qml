@@ -23,20 +23,13 @@ T.AbstractButton {
     Keys.onReturnPressed: control.clicked()
     Keys.onEnterPressed: control.clicked()
 
-    contentItem: Row {
+    contentItem: ButtonContent {
+        picture: control.kind.image
+        pictureColor: control.kind.selected ? Tokens.colors.accent : Tokens.colors.icon
+        text: control.kind.title
         spacing: Tokens.half
-
-        Icon {
-            anchors.verticalCenter: parent.verticalCenter
-            name: control.kind.image
-            color: control.kind.selected ? Tokens.colors.accent : Tokens.colors.icon
-        }
-        Label {
-            anchors.verticalCenter: parent.verticalCenter
-            text: control.kind.title
-            wrapMode: Text.NoWrap
-            font.pixelSize: Tokens.textSmall
-        }
+        label.font.pixelSize: Tokens.textSmall
+        label.horizontalAlignment: Text.AlignLeft
     }
     background: Rectangle {
         radius: Tokens.smallRadius

@@ -41,10 +41,13 @@ Item {
         Label {
             id: number
 
-            anchors.horizontalCenter: parent.horizontalCenter
             y: Math.max(2, (day.height - height) / 2 - Tokens.unit)
+            width: parent.width
             text: day.number
             wrapMode: Text.NoWrap
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: Tokens.gap
+            horizontalAlignment: Text.AlignHCenter
             font.pixelSize: Tokens.textBody
             font.bold: day.isToday
         }

@@ -10,7 +10,8 @@ FocusScope {
 
     required property CalendarMonth month
     property real cellHeight: 46
-    property int cursor: month.selectedIndex
+    /*! Where the arrows are; goes with the selected day until they are used. */
+    property int cursor: Math.max(0, month.selectedIndex)
     property bool byKeyboard: false
 
     signal nextRequested
@@ -19,13 +20,7 @@ FocusScope {
     signal touched(int index)
 
     function walk(by: int): void {
-        const next = (cursor < 0 ? month.selectedIndex : cursor) + by;
-        if (next < 0)
-            previousRequested();
-        else if (next >= days.count)
-            nextRequested();
-        else
-            cursor = next;
+        cursor = month.walk(cursor, by);
     }
 
     implicitHeight: column.height + Tokens.unit
@@ -43,14 +38,17 @@ FocusScope {
 
         Item {
             width: parent.width
-            height: Tokens.rowHeight
+            height: Math.max(Tokens.rowHeight, title.height)
 
             IconButton {
+                anchors.verticalCenter: parent.verticalCenter
                 picture: "chevron_left"
                 name: grid.month.previousTitle
                 onClicked: grid.previousRequested()
             }
             Button {
+                id: title
+
                 anchors.horizontalCenter: parent.horizontalCenter
                 width: Math.min(implicitWidth, parent.width - 2 * Tokens.rowHeight)
                 text: grid.month.title
@@ -59,6 +57,7 @@ FocusScope {
             }
             IconButton {
                 anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
                 picture: "chevron_right"
                 name: grid.month.nextTitle
                 onClicked: grid.nextRequested()
@@ -102,10 +101,13 @@ FocusScope {
                 case Qt.Key_Down: grid.walk(7); break;
                 case Qt.Key_PageUp: grid.previousRequested(); break;
                 case Qt.Key_PageDown: grid.nextRequested(); break;
-                case Qt.Key_Home: grid.todayRequested(); break;
+                case Qt.Key_Home:
+                    grid.todayRequested();
+                    grid.cursor = grid.month.indexOfToday();
+                    break;
                 case Qt.Key_Return:
                 case Qt.Key_Enter:
-                case Qt.Key_Space: if (grid.cursor >= 0) grid.touched(grid.cursor); break;
+                case Qt.Key_Space: grid.touched(grid.cursor); break;
                 default: event.accepted = false;
                 }
             }
@@ -121,6 +123,7 @@ FocusScope {
                     current: grid.byKeyboard && cells.activeFocus && index === grid.cursor
                     onTouched: {
                         grid.byKeyboard = false;
+                        grid.cursor = index;
                         cells.forceActiveFocus(Qt.MouseFocusReason);
                         grid.touched(index);
                     }
@@ -145,11 +148,12 @@ FocusScope {
     }
     Connections {
         target: grid.month
-        function onSelectedIndexChanged() {
-            grid.cursor = grid.month.selectedIndex;
-        }
         function onMonthChanged() {
-            grid.cursor = grid.month.selectedIndex >= 0 ? grid.month.selectedIndex : 0;
+            grid.cursor = Math.max(0, Math.min(grid.cursor, days.count - 1)); // another month may have fewer weeks
+        }
+        function onSelectedIndexChanged() {
+            if (!grid.byKeyboard && grid.month.selectedIndex >= 0)
+                grid.cursor = grid.month.selectedIndex;
         }
     }
 }

@@ -8,12 +8,16 @@ ListRow {
     property string text
     property string placeholder
     property string unit
+    /*! The room for the unit; where fields stand one under the other, that of the widest. */
+    property real unitWidth: naturalUnitWidth
+    readonly property real naturalUnitWidth: unit.implicitWidth
     property int keyboard: Keyboard.Text
     readonly property alias field: field
 
     signal committed(string text)
     signal began
-    signal finished
+    /*! As that of a field. */
+    signal finished(bool entered)
 
     selectable: true
     role: Accessible.Grouping
@@ -43,12 +47,13 @@ ListRow {
             activeFocusOnTab: false
             onCommitted: text => row.committed(text)
             onBegan: row.began()
-            onFinished: row.finished()
+            onFinished: entered => row.finished(entered)
         }
         Label {
             id: unit
 
             visible: text.length > 0
+            width: row.unitWidth
             height: field.height
             text: row.unit
             color: row.quiet

@@ -3,7 +3,7 @@ import Kesto
 
 /*!
     A row: picture, title over subtitle, detail, and at the end what its children and its accessory are. Whatever does
-    not fit beside the title goes under it; nothing is cut off.
+    not fit beside the title goes under it; nothing is cut off but a title longer than a paragraph.
 */
 FocusScope {
     id: row
@@ -13,6 +13,7 @@ FocusScope {
     property string subtitle
     property string detail
     property color titleColor: Tokens.colors.text
+    property int titleWeight: Font.Normal
     property bool struckThrough: false
     property bool destructive: false
     property bool centred: false
@@ -23,7 +24,9 @@ FocusScope {
     property bool current: false
     property bool first: true
     property bool last: true
-    property bool pictureTinted: true
+    property int pictureSize: Tokens.icon
+    /*! A thin line around the picture. */
+    property bool framed: false
     property int accessory: TableRow.None
     property bool checked: false
     property var badges: []
@@ -40,7 +43,7 @@ FocusScope {
     signal accessoryTouched
 
     implicitWidth: 320
-    implicitHeight: Math.max(Tokens.rowHeight, middle.height + 2 * Tokens.unit)
+    implicitHeight: Math.max(Tokens.rowHeight, middle.height + 2 * Tokens.unit, icon.visible ? icon.height + 2 * Tokens.unit : 0)
 
     Accessible.role: role
     Accessible.name: name
@@ -72,13 +75,23 @@ FocusScope {
         anchors.verticalCenter: parent.verticalCenter
         visible: row.picture.length > 0
         name: row.picture
+        size: row.pictureSize
         color: !row.available ? Tokens.colors.textDisabled : row.destructive ? Tokens.colors.destructive : Tokens.colors.icon
+
+        Rectangle {
+            anchors.fill: parent
+            visible: row.framed && icon.visible
+            color: "transparent"
+            border.width: Tokens.hairline
+            border.color: Tokens.colors.photoLine
+        }
     }
     Item {
         id: middle
 
         readonly property real room: trailing.natural > 0 ? width - trailing.natural - Tokens.gap : width
-        readonly property bool stacked: trailing.natural > 0 && titleLabel.implicitWidth > room
+        // The label's own width without a break depends on how it is broken.
+        readonly property bool stacked: trailing.natural > 0 && Tokens.bodyMetrics.advanceWidth(row.title) > room
 
         anchors.verticalCenter: parent.verticalCenter
         x: icon.visible ? icon.x + icon.width + Tokens.gap : Tokens.margin
@@ -102,34 +115,22 @@ FocusScope {
                     : row.destructive ? Tokens.colors.destructive
                     : row.struckThrough ? Tokens.colors.textDisabled : row.titleColor
                 font.strikeout: row.struckThrough
-                font.weight: row.selected ? Font.Medium : Font.Normal
+                font.weight: row.selected ? Font.Medium : row.titleWeight
+                maximumLineCount: 5
+                elide: Text.ElideRight
                 horizontalAlignment: row.centred ? Text.AlignHCenter : Text.AlignLeft
             }
-            Label {
+            Loader {
                 width: parent.width
-                visible: text.length > 0
-                text: row.subtitle
-                color: row.quiet
-                font.pixelSize: Tokens.textSmall
-                font.strikeout: row.struckThrough
+                visible: active
+                active: row.subtitle.length > 0
+                sourceComponent: subtitleText
             }
-            Flow {
+            Loader {
                 width: parent.width
-                visible: row.badges.length > 0
-                topPadding: Tokens.half
-                spacing: Tokens.half
-
-                Repeater {
-                    model: row.badges
-
-                    Badge {
-                        required property var modelData
-
-                        width: Math.min(implicitWidth, texts.width)
-                        text: modelData.text
-                        tone: modelData.color
-                    }
-                }
+                visible: active
+                active: row.badges.length > 0
+                sourceComponent: badgeFlow
             }
         }
         Row {
@@ -172,6 +173,36 @@ FocusScope {
         sourceComponent: inset ? touchable : sign
     }
     Component {
+        id: subtitleText
+
+        Label {
+            text: row.subtitle
+            color: row.quiet
+            font.pixelSize: Tokens.textSmall
+            font.strikeout: row.struckThrough
+        }
+    }
+    Component {
+        id: badgeFlow
+
+        Flow {
+            topPadding: Tokens.half
+            spacing: Tokens.half
+
+            Repeater {
+                model: row.badges
+
+                Badge {
+                    required property var modelData
+
+                    width: Math.min(implicitWidth, texts.width)
+                    text: modelData.text
+                    tone: modelData.color
+                }
+            }
+        }
+    }
+    Component {
         id: sign
 
         Icon {
@@ -189,7 +220,7 @@ FocusScope {
             picture: row.accessory === TableRow.InfoButton ? "info_icon" : row.checked ? "checkmarkButton_selected" : "checkmarkButton"
             color: row.checked ? Tokens.colors.accent : Tokens.colors.tint
             name: row.accessoryName
-            activeFocusOnTab: false
+            focusPolicy: Qt.NoFocus // the keys stay with the row
             Accessible.checkable: row.accessory === TableRow.CheckButton
             Accessible.checked: row.checked
             onClicked: row.accessoryTouched()

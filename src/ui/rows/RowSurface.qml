@@ -2,31 +2,23 @@ import QtQuick
 import Kesto
 
 /*! The white of a row: the first and the last row of a section are round at their ends. */
-Item {
+Rectangle {
     id: surface
 
     property bool first: true
     property bool last: true
-    property color color: Tokens.colors.surface
     property bool line: !last
     property real inset: Tokens.margin
 
+    radius: first || last ? Tokens.radius : 0
+    color: Tokens.colors.surface
+
+    // Makes the corners square again where another row goes on.
     Rectangle {
-        anchors.fill: parent
-        radius: surface.first || surface.last ? Tokens.radius : 0
-        color: surface.color
-    }
-    Rectangle {
+        y: surface.first ? parent.height - height : 0
         width: parent.width
         height: Math.min(Tokens.radius, parent.height / 2)
-        visible: !surface.first
-        color: surface.color
-    }
-    Rectangle {
-        y: parent.height - height
-        width: parent.width
-        height: Math.min(Tokens.radius, parent.height / 2)
-        visible: !surface.last
+        visible: surface.first !== surface.last
         color: surface.color
     }
     Rectangle {

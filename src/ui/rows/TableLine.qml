@@ -69,6 +69,19 @@ FocusScope {
     readonly property var ink: color !== undefined ? color
         : kind === TableRow.Button ? Tokens.colors.accentText : Tokens.colors.text
     property real lift: 0
+    /*! The keys are the row's own, none of what is in it: it is the row that is told of. */
+    readonly property bool chosen: isRow && activeFocus && !loader.activeFocus
+
+    Accessible.ignored: !chosen
+    Accessible.role: content && content.Accessible.role !== Accessible.NoRole ? content.Accessible.role : Accessible.ListItem
+    Accessible.name: content && content.Accessible.name.length > 0 ? content.Accessible.name : Texts.joined([title, subtitle, detail])
+    Accessible.description: Texts.joined([text.length > 0 ? text : placeholder, unit], " ")
+    Accessible.checkable: content?.Accessible.checkable ?? false
+    Accessible.checked: content?.Accessible.checked ?? false
+    Accessible.selected: selected
+    Accessible.focusable: true
+    Accessible.focused: chosen
+    Accessible.onPressAction: activate()
 
     /*! As by a touch: selects the row, or puts the cursor into its field. */
     function activate(): void {
@@ -82,6 +95,13 @@ FocusScope {
             controller.selectRow(section, row);
         else if (accessory === TableRow.CheckButton || accessory === TableRow.InfoButton)
             controller.touchAccessory(section, row);
+    }
+    /*! Touches the check button of a row; false when it has none. */
+    function check(): bool {
+        if (!isRow || !enabled || accessory !== TableRow.CheckButton)
+            return false;
+        controller.touchAccessory(section, row);
+        return true;
     }
     function remove(): void {
         if (canDelete)
@@ -102,17 +122,21 @@ FocusScope {
     z: lift !== 0 ? 2 : 0
     transform: Translate { y: line.lift }
 
-    IconButton {
+    // Most tables are never edited.
+    Loader {
         id: minus
 
         x: line.table.inset
         anchors.verticalCenter: swipe.verticalCenter
-        visible: line.isRow && line.editing && line.canDelete
-        picture: "minus_circle"
-        color: Tokens.colors.destructive
-        name: Texts.localized("Delete") + " " + line.title
-        activeFocusOnTab: false
-        onClicked: swipe.open = !swipe.open
+        visible: active
+        active: line.isRow && line.editing && line.canDelete
+        sourceComponent: IconButton {
+            picture: "minus_circle"
+            color: Tokens.colors.destructive
+            name: Texts.localized("Delete") + " " + line.title
+            activeFocusOnTab: false
+            onClicked: swipe.open = !swipe.open
+        }
     }
     SwipeArea {
         id: swipe
@@ -131,18 +155,21 @@ FocusScope {
             width: parent.width
         }
     }
-    ReorderHandle {
+    Loader {
         id: handle
 
         anchors.right: parent.right
         anchors.rightMargin: line.table.inset
         anchors.verticalCenter: swipe.verticalCenter
-        visible: line.isRow && line.editing && line.canMove
-        name: line.title
-        onLifted: line.table.lifted(line)
-        onCarried: by => line.table.carried(line, by)
-        onDropped: line.table.dropped(line)
-        onStepped: by => line.table.stepped(line, by)
+        visible: active
+        active: line.isRow && line.editing && line.canMove
+        sourceComponent: ReorderHandle {
+            name: line.title
+            onLifted: line.table.lifted(line)
+            onCarried: by => line.table.carried(line, by)
+            onDropped: line.table.dropped(line)
+            onStepped: by => line.table.stepped(line, by)
+        }
     }
     function draw(): void {
         loader.setSource(source.length > 0 ? source : "TextLine.qml", { line: line });

@@ -34,7 +34,7 @@ FocusScope {
             destructiveButtonIndex: alert.destructiveButtonIndex
         };
         if (alert.style === Alert.ActionSheet) {
-            content.anchor = appWindow.isTablet ? Anchors.find(root, alert.anchor) : null;
+            content.anchor = appWindow.isTablet ? Anchors.find(root, alert.anchor, alert.context) : null;
             shown = sheet.createObject(over, content);
             return;
         }

@@ -4,7 +4,7 @@ import Kesto
 /*!
     Everything in the window, from the back to the front: the root screen, presented screens, popovers, the progress
     indicator, an alert, the lock. Whatever is in front takes the keys and the touches from what is behind.
-    Escape goes back, Ctrl+M opens the menu.
+    Escape goes back, Ctrl+M opens the menu, or leads to the one that is always there.
 */
 FocusScope {
     id: shell
@@ -24,6 +24,8 @@ FocusScope {
             menu.menuOpen = !menu.menuOpen;
         else if (split && split.masterHidden)
             split.menuPopoverOpen = !split.menuPopoverOpen;
+        else if (split)
+            (root.page.item as SplitView).swapKeys();
     }
     /*! The keys go to what is in front; each part remembers which of its items had them. */
     function giveKeys(): void {
@@ -43,7 +45,7 @@ FocusScope {
 
     Background {
         anchors.fill: parent
-        picture: shell.appWindow.backgroundImage.length > 0 ? shell.appWindow.backgroundImage : "background"
+        picture: shell.appWindow.backgroundImage.length > 0 ? shell.appWindow.backgroundImage : Styllesheet.backgroundImage
     }
     FocusScope {
         id: behind
@@ -75,27 +77,29 @@ FocusScope {
                 appWindow: shell.appWindow
             }
         }
-        PopoverLayer {
+        Later {
             id: popovers
 
             anchors.fill: parent
-            appWindow: shell.appWindow
-            root: screens
+            needed: shell.popped
+            file: "PopoverLayer.qml"
+            content: ({ appWindow: shell.appWindow, root: screens })
         }
     }
-    ProgressOverlay {
+    Later {
         anchors.fill: parent
-        visible: shell.progress.visible
-        text: shell.progress.text
+        needed: shell.progress.visible
+        file: "../components/ProgressOverlay.qml"
+        content: ({ progress: shell.progress })
     }
-    AlertLayer {
+    Later {
         id: alerts
 
         anchors.fill: parent
         enabled: !shell.locked
-        appWindow: shell.appWindow
-        alertCenter: shell.alertCenter
-        root: behind
+        needed: shell.asked
+        file: "AlertLayer.qml"
+        content: ({ appWindow: shell.appWindow, alertCenter: shell.alertCenter, root: behind })
     }
     Swap {
         id: lock

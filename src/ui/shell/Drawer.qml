@@ -22,6 +22,12 @@ FocusScope {
         panel.x = docked || open ? 0 : -panelWidth;
     }
 
+    /*! The keys go to the panel, or back from it. */
+    function swapKeys(): void {
+        const next = panel.activeFocus ? main : panel;
+        next.forceActiveFocus(Qt.ShortcutFocusReason);
+    }
+
     onOpenChanged: {
         settle();
         if (docked)

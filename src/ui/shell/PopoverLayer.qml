@@ -23,7 +23,7 @@ FocusScope {
             sizeHint: modelData.sizeHint
             onDismissed: modelData.dismiss()
             Component.onCompleted: {
-                anchor = Anchors.find(over.root, modelData.anchor);
+                anchor = Anchors.find(over.root, modelData.anchor, modelData.owner);
                 inner.forceActiveFocus(Qt.OtherFocusReason);
             }
 

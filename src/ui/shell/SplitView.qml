@@ -8,7 +8,7 @@ Drawer {
     required property SplitViewController controller
 
     docked: !controller.masterHidden
-    panelWidth: Math.min(Math.round(Tokens.masterWidth * Tokens.pictureScale), width / 2)
+    panelWidth: Math.min(Math.round(Tokens.masterWidth * Tokens.pictureScale), docked ? width / 2 : width - Tokens.barHeight)
     panelName: Texts.localized("Menu")
     open: controller.menuPopoverOpen
     mainController: controller.detail

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Layouts
 import QtQuick.Templates as T
 import Kesto
 
@@ -17,36 +16,28 @@ T.Button {
 
     implicitWidth: Math.max(Tokens.rowHeight, contentItem.implicitWidth + leftPadding + rightPadding)
     implicitHeight: Math.max(Tokens.rowHeight, contentItem.implicitHeight + topPadding + bottomPadding)
-    leftPadding: Tokens.margin
-    rightPadding: Tokens.margin
+    leftPadding: Tokens.wide
+    rightPadding: Tokens.wide
     topPadding: Tokens.unit
     bottomPadding: Tokens.unit
     focusPolicy: Qt.StrongFocus
 
     Accessible.name: text
-    Keys.onReturnPressed: control.clicked()
-    Keys.onEnterPressed: control.clicked()
+    Keys.onReturnPressed: event => control.enter(event)
+    Keys.onEnterPressed: event => control.enter(event)
 
-    contentItem: RowLayout {
-        spacing: Tokens.unit
+    /*! A key that is held down since before the button came is not meant for it. */
+    function enter(event: var): void {
+        if (!event.isAutoRepeat)
+            clicked();
+    }
 
-        Item { Layout.fillWidth: true }
-        Icon {
-            visible: control.picture.length > 0
-            name: control.picture
-            color: control.ink
-        }
-        Label {
-            visible: control.text.length > 0
-            Layout.fillWidth: true
-            Layout.maximumWidth: Math.ceil(implicitWidth)
-            text: control.text
-            color: control.ink
-            font.pixelSize: control.textSize
-            font.weight: control.primary ? Font.Medium : Font.Normal
-            horizontalAlignment: Text.AlignHCenter
-        }
-        Item { Layout.fillWidth: true }
+    contentItem: ButtonContent {
+        picture: control.picture
+        text: control.text
+        ink: control.ink
+        label.font.pixelSize: control.textSize
+        label.font.weight: control.primary ? Font.Medium : Font.Normal
     }
 
     background: Rectangle {

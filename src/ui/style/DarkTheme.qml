@@ -6,6 +6,8 @@ Theme {
     barTitleShade: "#1d3a1e"
     barButton: "#d9e8d8"
     barLine: "#244a25"
+    tabTitle: "#d9e8d8"
+    tabTitleChosen: "#ffffff"
 
     page: "#121512"
     pattern: false
@@ -31,4 +33,8 @@ Theme {
     trackOff: "#454d45"
     knob: "#ffffff"
     today: "#82bd54"
+    photoLine: "#d4d4d4"
+
+    shades: ["#28352a", "#363025", "#392c27", "#372a2a", "#343024", "#372a32", "#393124", "#25323a", "#2e2c3a", "#2c312c"]
+    inks: ["#86ab80", "#b99f70", "#bf947e", "#b48b89", "#b09c66", "#b58aa1", "#bd9c62", "#7ba3bb", "#958fb6", "#8d968d"]
 }

@@ -1,8 +1,7 @@
 import QtQuick
 
+/*! Tokens adds what the style sheet says. */
 Theme {
-    bar: "#96db94"
-    barTitle: "#ffffff"
     barTitleShade: "#5aa558"
     barButton: "#46564a"
     barLine: "#7fc47d"
@@ -20,10 +19,8 @@ Theme {
     text: "#2b2f2b"
     textQuiet: "#6b736b"
     textDisabled: "#a9b0a9"
-    icon: "#5c5c5c"
     accentInk: "#ffffff"
 
-    tint: "#5c5c5c"
     accent: "#5aae57"
     accentText: "#2f7d2e"
     destructive: "#d23f3f"
@@ -31,4 +28,8 @@ Theme {
     trackOff: "#d7ddd6"
     knob: "#ffffff"
     today: "#82bd54"
+    photoLine: "#d4d4d4"
+
+    shades: ["#e2efdf", "#f5ecdc", "#f8e6de", "#f2e3e2", "#f3ebd4", "#f4e3ec", "#f9ecd4", "#dfecf3", "#e7e6f2", "#eaedea"]
+    inks: ["#6f9a68", "#ab8d59", "#b58268", "#a47774", "#a08a4c", "#a5748e", "#b08a48", "#6490aa", "#7f78a3", "#8b938b"]
 }

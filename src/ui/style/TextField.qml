@@ -14,24 +14,24 @@ T.TextField {
     /*! For those who do not see the label beside it. */
     property string name
     property bool plain: false
-    property bool editing: false
-    readonly property bool dirty: editing && text !== value
+    /*! Something was typed that is not committed yet. */
+    property bool typed: false
 
-    /*! An edit ended with this text; comes once an edit, also when nothing was changed. */
+    /*! The user typed this, be it what was there before, and is done. */
     signal committed(string text)
     signal began
-    /*! The field has nothing more to do with the keys. */
-    signal finished
+    /*! The field has nothing more to do with the keys: it was left by Enter, or else by Escape. */
+    signal finished(bool entered)
 
     function commit(): void {
-        if (!editing)
+        if (!typed)
             return;
-        editing = false;
+        typed = false;
         committed(text);
         text = Qt.binding(() => control.value);
     }
     function revert(): void {
-        editing = false;
+        typed = false;
         text = Qt.binding(() => control.value);
     }
 
@@ -55,10 +55,9 @@ T.TextField {
     Accessible.role: Accessible.EditableText
     Accessible.name: name.length > 0 ? name : placeholderText
 
-    onTextEdited: editing = true
+    onTextEdited: typed = true
     onActiveFocusChanged: {
         if (activeFocus) {
-            editing = true;
             selectAll();
             began();
         } else {
@@ -70,12 +69,12 @@ T.TextField {
     Keys.onEnterPressed: finishEdit()
     Keys.onEscapePressed: {
         revert();
-        finished();
+        finished(false);
     }
 
     function finishEdit(): void {
         commit();
-        finished();
+        finished(true);
     }
 
     Label {

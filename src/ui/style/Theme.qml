@@ -8,6 +8,8 @@ QtObject {
     required property color barTitleShade
     required property color barButton
     required property color barLine
+    required property color tabTitle
+    required property color tabTitleChosen
 
     // Surfaces, from the back to the front
     required property color page
@@ -36,4 +38,9 @@ QtObject {
     required property color trackOff
     required property color knob
     required property color today
+    required property color photoLine
+
+    // Behind and on the drawings that stand for photos, one a category of dishes, and one for all others
+    required property var shades
+    required property var inks
 }

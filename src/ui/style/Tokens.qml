@@ -8,7 +8,14 @@ QtObject {
     id: tokens
 
     readonly property Theme colors: Appearance.dark ? dark : light
-    readonly property Theme light: LightTheme {}
+    readonly property Theme light: LightTheme {
+        bar: Styllesheet.barTintColor
+        barTitle: Styllesheet.barTitleColor
+        tabTitle: Styllesheet.tabTitleColor
+        tabTitleChosen: Styllesheet.selectedTabTitleColor
+        icon: Styllesheet.tintColor
+        tint: Styllesheet.tintColor
+    }
     readonly property Theme dark: DarkTheme {}
 
     // The 8-point grid
@@ -42,7 +49,12 @@ QtObject {
 
     // Type
     readonly property real textScale: Appearance.textScale
-    readonly property string family: Appearance.fontFamily
+    /*! Measures body text. */
+    readonly property FontMetrics bodyMetrics: FontMetrics {
+        font.family: tokens.family
+        font.pixelSize: tokens.textBody
+    }
+    readonly property string family: Styllesheet.fontFamily
     readonly property int textCaption: Math.round(12 * textScale)
     // The largest in bars, which have little room
     readonly property int textOfTabs: 15
@@ -51,7 +63,7 @@ QtObject {
     readonly property int textOfTitles: 28
     readonly property int textSmall: Math.round(14 * textScale)
     readonly property int textBody: Math.round(16 * textScale)
-    readonly property int textTitle: Math.round(18 * textScale)
+    readonly property int textTitle: Math.round(Styllesheet.barTitleSize * textScale)
     readonly property int textLarge: Math.round(22 * textScale)
     readonly property int textHuge: Math.round(34 * textScale)
 
@@ -59,6 +71,14 @@ QtObject {
     readonly property int quick: Appearance.motion ? 120 : 0
     readonly property int normal: Appearance.motion ? 200 : 0
     readonly property int slow: Appearance.motion ? 240 : 0
+    /*! The colours of a category of dishes (0 to 8), or of none. */
+    function shadeOf(category: int): color {
+        return colors.shades[category >= 0 && category < 9 ? category : 9];
+    }
+    function inkOf(category: int): color {
+        return colors.inks[category >= 0 && category < 9 ? category : 9];
+    }
+
     /*! One turn of what turns while the program works; it stands still when motion is off. */
     readonly property int turn: 1200
 }

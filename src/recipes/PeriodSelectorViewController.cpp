@@ -1,4 +1,4 @@
-#include "plan/PeriodSelectorViewController.h"
+#include "recipes/PeriodSelectorViewController.h"
 
 #include "platform/StringTables.h"
 
@@ -20,6 +20,7 @@ PeriodSelectorViewController::PeriodSelectorViewController(int currentPeriod, Pe
     : currentPeriod_(currentPeriod)
     , delegate_(delegate)
 {
+    setTitle(localized(QStringLiteral("Phase")));
 }
 
 int PeriodSelectorViewController::numberOfRowsInSection(int) const { return static_cast<int>(titles().size()); }

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "app/TourStops.h"
+
+namespace kesto
+{
+
+[[nodiscard]] QList<TourStop> catalogueTourStops();
+[[nodiscard]] QList<TourStop> favouriteTourStops();
+
+} // namespace kesto

@@ -1,0 +1,350 @@
+#include "plan/DietDayDetailViewController.h"
+
+#include "components/NavigationController.h"
+#include "components/Window.h"
+#include "model/DietDay.h"
+#include "model/Dish.h"
+#include "model/DishInDietDay.h"
+#include "model/DishesCategory.h"
+#include "plan/CalFooterView.h"
+#include "plan/CalculatorViewController.h"
+#include "platform/Platform.h"
+#include "platform/StringFormat.h"
+#include "platform/StringTables.h"
+#include "platform/UserDefaults.h"
+#include "store/CoreDataManager.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <array>
+
+namespace kesto
+{
+
+namespace
+{
+
+constexpr std::array kindTitles{u"Чистый Белок", u"Белок и овощи", u"Пир"};
+constexpr std::array kindImages{u"protein.png", u"protein_vegetables.png", u"feast.png"};
+constexpr std::array addTitles{u"Добавить блюдо", u"Добавить блюдо из избраного", u"Добавить быстрое блюдо"};
+constexpr std::array addImages{u"add_dish.png", u"favorite_dish.png", u"my_dish.png", u"autofilling_day_icon.png"};
+constexpr std::array fillTitles{u"Автонаполнение Атаки", u"Автонаполнение Круиза"}; // by phase
+
+constexpr int attack = 0;
+constexpr int cruise = 1;
+
+template <size_t N>
+QString text(const std::array<const char16_t *, N> &texts, int index)
+{
+    return QString::fromUtf16(texts.at(static_cast<size_t>(index)));
+}
+
+ManagedObjectContext &context() { return *CoreDataManager::sharedManager().managedObjectContext(); }
+
+// What could not be written stays to be saved with the next change.
+void save() { (void)context().save(); }
+
+} // namespace
+
+DietDayDetailViewController::DietDayDetailViewController(DietDayDetailViewControllerDelegate *delegate)
+    : delegate_(delegate)
+{
+    // A dish that was deleted in the popover is planned no more.
+    connect(this, &ViewController::popoverChanged, this, [this] {
+        if (popover() == nullptr)
+            refresh();
+    });
+}
+
+DietDayDetailViewController::DietDayDetailViewController(const QDateTime &date, int dietPeriod,
+                                                         DietDayDetailViewControllerDelegate *delegate)
+    : DietDayDetailViewController(delegate)
+{
+    setDate(date, dietPeriod);
+}
+
+void DietDayDetailViewController::viewDidLoad()
+{
+    if (qobject_cast<NavigationController *>(parentViewController()) != nullptr)
+        setRightBarButtonItem(editDishesButtonItem());
+}
+
+// The day, its dishes and the units may have changed while another screen was in sight.
+void DietDayDetailViewController::viewWillAppear() { refresh(); }
+
+void DietDayDetailViewController::viewWillDisappear()
+{
+    setEditing(false);
+    save();
+}
+
+void DietDayDetailViewController::setDate(const QDateTime &date, int period)
+{
+    if (date != date_)
+        setEditing(false); // closes the wheels, too
+    if (period != dietPeriod_)
+        closePicker();
+    date_ = date;
+    dietPeriod_ = period;
+    day_ = nullptr;
+    refresh();
+}
+
+void DietDayDetailViewController::setDisbledDay(bool disabled)
+{
+    if (disabled)
+        setEditing(false);
+    disbledDay_ = disabled;
+    refresh();
+}
+
+DietDay *DietDayDetailViewController::day()
+{
+    if ((day_ == nullptr || day_->isDeleted()) && date_.isValid() && !disbledDay_)
+        day_ = &DietDay::dietDatWithDate(date_, context());
+    return day_;
+}
+
+void DietDayDetailViewController::refresh()
+{
+    const CoreDataManager &manager = CoreDataManager::sharedManager();
+    kgString_ = manager.kgString();
+    metrickSystem_ = manager.isMetrickSystem();
+    const QLocale locale(Platform::current().strings().preferredLanguage());
+    setTitle(disbledDay_ || !date_.isValid()
+                 ? QString()
+                 : locale.toString(Platform::current().calendar().dayOf(date_), QStringLiteral("dd MMMM")));
+    createContent();
+    reloadData();
+}
+
+void DietDayDetailViewController::createContent()
+{
+    content_.clear();
+    if (const DietDay *shown = day()) {
+        FetchRequest request;
+        request.predicate = attribute("dietDays") == shown;
+        request.sortDescriptors = {{"displayOrder"}};
+        request.relationshipKeyPathsForPrefetching = {"dish"};
+        content_ = context().fetch<DishInDietDay>(request);
+    }
+    Q_EMIT contentChanged();
+}
+
+int DietDayDetailViewController::kindCount() const
+{
+    switch (dietPeriod_) {
+    case attack:
+        return 1;
+    case -1:
+    case cruise:
+        return 2;
+    default:
+        return static_cast<int>(kindTitles.size());
+    }
+}
+
+int DietDayDetailViewController::numberOfSections() const
+{
+    if (disbledDay_ || day_ == nullptr)
+        return 0;
+    return isEditing() ? AddSection : AddSection + 1;
+}
+
+int DietDayDetailViewController::numberOfRowsInSection(int section) const
+{
+    switch (section) {
+    case DaySection:
+        return 1 + kindCount();
+    case DishesSection:
+        return static_cast<int>(content_.size());
+    default:
+        return dietPeriod_ == attack || dietPeriod_ == cruise ? AutoFillRow + 1 : AutoFillRow;
+    }
+}
+
+QString DietDayDetailViewController::titleForHeaderInSection(int section) const
+{
+    const bool inBar = qobject_cast<NavigationController *>(parentViewController()) != nullptr;
+    return section == DaySection && !inBar ? title() : QString();
+}
+
+TableRow DietDayDetailViewController::cellForRow(const IndexPath &path) const
+{
+    switch (path.section) {
+    case DaySection:
+        return dayRow(path.row);
+    case DishesSection:
+        return dishRow(*content_[static_cast<size_t>(path.row)]);
+    default:
+        return addRow(path.row);
+    }
+}
+
+TableRow DietDayDetailViewController::dayRow(int row) const
+{
+    if (row == weightRow) {
+        const std::optional<float> weight = day_->weight();
+        return {.kind = TableRow::Kind::Value,
+                .title = localized(QStringLiteral("Вес")),
+                .detail = weight ? stringWithFormat("%0.1f %@", metrickSystem_ ? *weight : *weight / kilogramsPerPound,
+                                                    kgString_)
+                                 : QStringLiteral("-"),
+                .image = QStringLiteral("weight.png")};
+    }
+    const int kind = row - 1;
+    const bool selected = day_->valueForKey(CalFooterView::kindKeys().at(static_cast<size_t>(kind))).toBool();
+    return {.title = localized(text(kindTitles, kind)),
+            .image = text(kindImages, kind),
+            .accessory = selected ? TableRow::Accessory::Checkmark : TableRow::Accessory::None,
+            .selected = selected};
+}
+
+TableRow DietDayDetailViewController::dishRow(const DishInDietDay &planned) const
+{
+    const Dish *dish = planned.dish();
+    QString name;
+    if (dish != nullptr) {
+        name = dish->valueForKey(localized(QStringLiteral("nameKey"))).toString();
+        for (const QString &other : {dish->nameRU(), dish->nameENG()})
+            name = name.isEmpty() ? other : name;
+    }
+    return {.title = name.isEmpty() ? QStringLiteral("-") : name,
+            .accessory = dish != nullptr ? TableRow::Accessory::Disclosure : TableRow::Accessory::None,
+            .selectable = dish != nullptr,
+            .canDelete = true,
+            .canMove = true};
+}
+
+TableRow DietDayDetailViewController::addRow(int row) const
+{
+    return {.kind = TableRow::Kind::Button,
+            .title = localized(row == AutoFillRow ? text(fillTitles, dietPeriod_) : text(addTitles, row)),
+            .image = text(addImages, row)};
+}
+
+void DietDayDetailViewController::setEditing(bool editing)
+{
+    if (editing == isEditing() || (editing && numberOfSections() == 0))
+        return;
+    TableViewControllerWithEcternalPicker::setEditing(editing);
+    if (editing)
+        deleteSection(AddSection);
+    else if (numberOfSections() > AddSection)
+        insertSection(AddSection);
+}
+
+std::unique_ptr<BarButtonItem> DietDayDetailViewController::editDishesButtonItem()
+{
+    std::unique_ptr<BarButtonItem> item = editButtonItem();
+    const auto show = [this, button = item.get()] {
+        button->setVisible(numberOfSections() > 0 && (isEditing() || !content_.empty()));
+    };
+    show();
+    connect(this, &DietDayDetailViewController::contentChanged, item.get(), show);
+    connect(this, &TableViewController::editingChanged, item.get(), show);
+    return item;
+}
+
+void DietDayDetailViewController::didSelectRow(const IndexPath &path)
+{
+    if (day() == nullptr)
+        return;
+    if (path.section == DaySection) {
+        if (path.row == weightRow)
+            displayPickerForIndexPath(path);
+        else
+            toggleKind(path.row - 1);
+    } else if (path.section == DishesSection) {
+        if (Dish *dish = content_[static_cast<size_t>(path.row)]->dish())
+            openDish(*dish);
+    } else {
+        switch (path.row) {
+        case AddDishRow:
+            openCatalogue();
+            break;
+        case AddFavoriteRow:
+            openFavorites();
+            break;
+        case AddQuickDishRow:
+            askForQuickDish();
+            break;
+        default:
+            autoFillDay();
+        }
+    }
+}
+
+// A day without a weight starts from the last one before it, and that from the calculator's.
+float DietDayDetailViewController::shownOnWheels() const
+{
+    if (day_->weight())
+        return *day_->weight();
+    FetchRequest request;
+    request.predicate = attribute("date") < date_ && attribute("weight") > 0.0;
+    request.sortDescriptors = {{"date", false}};
+    request.fetchLimit = 1;
+    const std::vector<DietDay *> weighed = context().fetch<DietDay>(request);
+    if (!weighed.empty())
+        return weighed.front()->weight().value_or(0);
+    const int weightInput = static_cast<int>(CalculatorInput::Weight);
+    const float entered = Platform::current().userDefaults().floatForKey(
+        CalculatorViewController::keys()[CalculatorViewController::InputsSection][weightInput]);
+    return entered > 0 ? entered : CalculatorViewController::defaultValueForIndex(weightInput).toFloat();
+}
+
+int DietDayDetailViewController::selectedRowInComponent(int component) const
+{
+    return day_ != nullptr ? wheels().row(shownOnWheels(), component) : 0;
+}
+
+void DietDayDetailViewController::pickerDidSelectRow(int, int)
+{
+    QList<int> rows;
+    for (int component = 0; component < wheels().numberOfComponents(); ++component)
+        rows.append(picker()->selectedRow(component));
+    day()->setWeight(wheels().value(rows));
+    save();
+    reloadRow({DaySection, weightRow});
+    Q_EMIT weightChanged();
+}
+
+void DietDayDetailViewController::toggleKind(int kind)
+{
+    const auto &keys = CalFooterView::kindKeys();
+    DietDay &shown = *day();
+    const QString &touched = keys.at(static_cast<size_t>(kind));
+    const bool selected = !shown.valueForKey(touched).toBool();
+    for (const QString &key : keys)
+        shown.setValueForKey(key == touched && selected, key);
+    save();
+    reloadSection(DaySection);
+    if (delegate_ != nullptr && Window::sharedWindow().isTablet())
+        delegate_->dietDayDetailViewControllerDidUpdateDay();
+}
+
+void DietDayDetailViewController::commitDelete(const IndexPath &path)
+{
+    DishInDietDay &planned = *content_[static_cast<size_t>(path.row)];
+    Dish *dish = planned.dish();
+    day()->removeDishes(planned);
+    context().deleteObject(planned);
+    if (dish != nullptr && dish->dishCategory() == nullptr)
+        context().deleteObject(*dish);
+    save();
+    createContent(); // a quick dish takes every other entry of it along
+    reloadSection(DishesSection);
+}
+
+void DietDayDetailViewController::moveRow(const IndexPath &from, const IndexPath &to)
+{
+    const auto first = content_.begin() + std::min(from.row, to.row);
+    const auto last = content_.begin() + std::max(from.row, to.row) + 1;
+    std::rotate(first, from.row < to.row ? first + 1 : last - 1, last);
+    for (size_t i = 0; i < content_.size(); ++i)
+        content_[i]->setDisplayOrder(static_cast<int>(i));
+    save();
+}
+
+} // namespace kesto

@@ -1,0 +1,114 @@
+#pragma once
+
+#include "components/TableViewControllerWithEcternalPicker.h"
+#include "plan/CalculatorWheels.h"
+#include "plan/DietDayScreen.h"
+#include "recipes/DishDelegates.h"
+
+#include <QDateTime>
+
+#include <vector>
+
+namespace kesto
+{
+
+struct AlertAnswer;
+class DietDay;
+class Dish;
+class DishInDietDay;
+class ManagedObjectContext;
+
+/// One day of the diet: its weight, its kind, and the dishes planned for it. It makes the day's record when it loads
+/// it.
+class DietDayDetailViewController : public TableViewControllerWithEcternalPicker,
+                                    public DietDayScreen,
+                                    public AddDishDelegate
+{
+    Q_OBJECT
+public:
+    /// The last one is not there while the table is edited.
+    enum Section { DaySection, DishesSection, AddSection };
+    enum AddRow { AddDishRow, AddFavoriteRow, AddQuickDishRow, AutoFillRow };
+    /// In the day's section; the rows of the kinds follow it.
+    static constexpr int weightRow = 0;
+    /// A day of so many dishes is full enough not to be filled automatically.
+    static constexpr int filledDay = 4;
+
+    /// Without a day until setDate(). The delegate outlives this or is null.
+    explicit DietDayDetailViewController(DietDayDetailViewControllerDelegate *delegate = nullptr);
+    /// The day of a date, given by its beginning, and its phase.
+    DietDayDetailViewController(const QDateTime &date, int dietPeriod, DietDayDetailViewControllerDelegate *delegate);
+
+    void setDate(const QDateTime &date, int period) override;
+    void setDisbledDay(bool disabled) override;
+    [[nodiscard]] bool disbledDay() const { return disbledDay_; }
+    [[nodiscard]] QDateTime date() const { return date_; }
+    [[nodiscard]] int dietPeriod() const { return dietPeriod_; }
+    /// The record of the day, made anew when somebody deleted it; null without a date.
+    [[nodiscard]] DietDay *day();
+    /// The planned dishes in their order.
+    [[nodiscard]] const std::vector<DishInDietDay *> &content() const { return content_; }
+    void createContent();
+
+    void addDish(Dish &dish) override;
+    void addDishToDietDay(Dish &dish, ManagedObjectContext &toManagedObjectContext);
+    /// Plans the dishes that the store manager proposes, unless the day is full enough. What it adds is saved with the
+    /// next change that is, at the latest when this screen is left.
+    void autoFillDay();
+
+    [[nodiscard]] int numberOfSections() const override;
+    [[nodiscard]] int numberOfRowsInSection(int section) const override;
+    [[nodiscard]] TableRow cellForRow(const IndexPath &path) const override;
+    /// The day's title where no bar shows it.
+    [[nodiscard]] QString titleForHeaderInSection(int section) const override;
+    void setEditing(bool editing) override;
+    /// A button that turns editing on and off; hidden as long as nothing can be edited.
+    [[nodiscard]] std::unique_ptr<BarButtonItem> editDishesButtonItem();
+
+Q_SIGNALS:
+    /// The day was given another weight here.
+    void weightChanged();
+    /// Other dishes, another day, or a day that is disabled.
+    void contentChanged();
+
+protected:
+    void viewDidLoad() override;
+    void viewWillAppear() override;
+    void viewWillDisappear() override;
+    void didSelectRow(const IndexPath &path) override;
+    void commitDelete(const IndexPath &path) override;
+    void moveRow(const IndexPath &from, const IndexPath &to) override;
+    [[nodiscard]] int numberOfComponentsInPicker() const override { return wheels().numberOfComponents(); }
+    [[nodiscard]] int numberOfRowsInComponent(int component) const override { return wheels().numberOfRows(component); }
+    [[nodiscard]] QString titleForRow(int row, int component) const override { return wheels().title(row, component); }
+    [[nodiscard]] int selectedRowInComponent(int component) const override;
+    void pickerDidSelectRow(int row, int component) override;
+
+private:
+    [[nodiscard]] CalculatorWheels wheels() const { return {CalculatorInput::Weight, metrickSystem_}; }
+    [[nodiscard]] int kindCount() const;
+    [[nodiscard]] float shownOnWheels() const;
+    [[nodiscard]] TableRow dayRow(int row) const;
+    [[nodiscard]] TableRow dishRow(const DishInDietDay &planned) const;
+    [[nodiscard]] TableRow addRow(int row) const;
+    void refresh();
+    void toggleKind(int kind);
+    DishInDietDay *plan(Dish &dish);
+    void openCatalogue();
+    void openFavorites();
+    void openChoice(std::unique_ptr<ViewController> choice, AddRow from);
+    void openDish(Dish &dish);
+    void askForQuickDish();
+    void quickDishNamed(const AlertAnswer &answer);
+
+    DietDayDetailViewControllerDelegate *delegate_;
+    QDateTime date_;
+    int dietPeriod_ = -1;
+    bool disbledDay_ = false;
+    DietDay *day_ = nullptr;
+    std::vector<DishInDietDay *> content_;
+    QString kgString_;
+    bool metrickSystem_ = true;
+};
+
+} // namespace kesto

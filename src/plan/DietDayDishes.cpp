@@ -1,0 +1,145 @@
+// How dishes come onto the screen of a day.
+
+#include "components/AlertCenter.h"
+#include "components/NavigationController.h"
+#include "components/PopoverController.h"
+#include "components/Window.h"
+#include "model/DietDay.h"
+#include "model/Dish.h"
+#include "model/DishInDietDay.h"
+#include "plan/DietDayDetailViewController.h"
+#include "platform/Log.h"
+#include "platform/StringTables.h"
+#include "recipes/DishDetailViewController.h"
+#include "recipes/DishesCategoriesViewController.h"
+#include "recipes/FavoritesManager.h"
+#include "recipes/FavoritesViewController.h"
+#include "store/CoreDataManager.h"
+
+#include <algorithm>
+
+namespace kesto
+{
+
+namespace
+{
+
+/// Of the bubble with the dishes to choose from. It fits above or below any row, so that the day stays in sight.
+QSizeF choiceSize()
+{
+    constexpr qreal width = 400;
+    constexpr qreal highest = 620;
+    constexpr qreal rowAndMargins = 50;
+    return {width, std::min(Window::sharedWindow().size().height() / 2 - rowAndMargins, highest)};
+}
+
+enum QuickDishButton { CancelButton, AddButton, AddToCartButton };
+
+ManagedObjectContext &context() { return *CoreDataManager::sharedManager().managedObjectContext(); }
+
+} // namespace
+
+DishInDietDay *DietDayDetailViewController::plan(Dish &dish)
+{
+    auto &planned = context().insert<DishInDietDay>();
+    planned.setDisplayOrder(static_cast<int>(content_.size()));
+    planned.setDish(&dish);
+    day()->addDishes(planned);
+    return &planned;
+}
+
+void DietDayDetailViewController::addDish(Dish &dish)
+{
+    if (day() != nullptr)
+        addDishToDietDay(dish, context());
+}
+
+void DietDayDetailViewController::addDishToDietDay(Dish &dish, ManagedObjectContext &toManagedObjectContext)
+{
+    createContent(); // the list that the dish was chosen in may have deleted others
+    plan(dish);
+    (void)toManagedObjectContext.save(); // what could not be written stays to be saved with the next change
+    createContent();
+    reloadSection(DishesSection);
+}
+
+void DietDayDetailViewController::autoFillDay()
+{
+    log(QStringLiteral("start autofilin"));
+    if (day() == nullptr || content_.size() >= filledDay)
+        return;
+    for (Dish *dish : CoreDataManager::sharedManager().autoFilledDishesForPeriod(dietPeriod_)) {
+        content_.push_back(plan(*dish));
+        insertRow({DishesSection, static_cast<int>(content_.size()) - 1});
+    }
+    Q_EMIT contentChanged();
+    log(QStringLiteral("end autofilin"));
+}
+
+void DietDayDetailViewController::openCatalogue()
+{
+    auto catalogue = std::make_unique<DishesCategoriesViewController>(day(), dietPeriod_);
+    catalogue->setDelegate(this);
+    openChoice(std::move(catalogue), AddDishRow);
+}
+
+void DietDayDetailViewController::openFavorites()
+{
+    if (FavoritesManager::sharedManager().count() == 0) {
+        showAlert({}, localized(QStringLiteral("У вас нет избранных рецептов")));
+        return;
+    }
+    auto favorites = std::make_unique<FavoritesViewController>();
+    favorites->setDay(day());
+    favorites->setPeriod(dietPeriod_);
+    favorites->setIsAddMode(true);
+    favorites->setDelegate(this);
+    openChoice(std::move(favorites), AddFavoriteRow);
+}
+
+void DietDayDetailViewController::openChoice(std::unique_ptr<ViewController> choice, AddRow from)
+{
+    if (Window::sharedWindow().isTablet())
+        presentPopover(std::make_unique<NavigationController>(std::move(choice)),
+                       QStringLiteral("row/%1/%2").arg(AddSection).arg(from))
+            ->setSizeHint(choiceSize());
+    else if (NavigationController *stack = navigationController())
+        stack->pushViewController(std::move(choice), true);
+}
+
+void DietDayDetailViewController::openDish(Dish &dish)
+{
+    NavigationController *stack = navigationController();
+    if (stack == nullptr)
+        return;
+    auto detail = std::make_unique<DishDetailViewController>();
+    detail->setDish(&dish);
+    stack->pushViewController(std::move(detail), true);
+}
+
+void DietDayDetailViewController::askForQuickDish()
+{
+    Alert alert;
+    alert.title = localized(QStringLiteral("Добавить быстрое блюдо"));
+    alert.textField = Alert::TextField{.placeholder = localized(QStringLiteral("Название блюда"))};
+    alert.buttons = {{localized(QStringLiteral("Отменить")), Alert::Role::Cancel},
+                     {localized(QStringLiteral("Добавить"))},
+                     {localized(QStringLiteral("Добавить, и внести в корзину"))}};
+    alert.context = this;
+    alert.answered = [this](const AlertAnswer &answer) { quickDishNamed(answer); };
+    AlertCenter::sharedCenter().show(std::move(alert));
+}
+
+void DietDayDetailViewController::quickDishNamed(const AlertAnswer &answer)
+{
+    if (answer.buttonIndex == CancelButton || answer.text.trimmed().isEmpty() || day() == nullptr)
+        return;
+    auto &dish = context().insert<Dish>();
+    dish.setNameENG(answer.text);
+    dish.setNameRU(answer.text);
+    addDishToDietDay(dish, context());
+    if (answer.buttonIndex == AddToCartButton)
+        CoreDataManager::sharedManager().addIngredientToCard(dish.nameENG());
+}
+
+} // namespace kesto

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QSet>
+#include <QString>
+#include <QVariantList>
+
+#include <vector>
+
+namespace kesto
+{
+
+class DietDay;
+class Dish;
+
+// What every list of dishes goes by.
+
+/// The name of a dish in the language of the interface.
+[[nodiscard]] QString displayName(const Dish &dish);
+/// By display name, letter for letter; dishes of one name stay in the order of their making.
+void sortByDisplayName(std::vector<Dish *> &dishes);
+/// Whether a dish belongs to a phase: its phases, as text, contain the number.
+[[nodiscard]] bool belongsToPhase(const Dish &dish, int phase);
+
+/// The dishes that are planned for a day; none for one that is null or gone.
+[[nodiscard]] QSet<const Dish *> dishesPlannedFor(const DietDay *day);
+
+/// Dishes as the items of a list, and back.
+[[nodiscard]] QVariantList itemsOf(const std::vector<Dish *> &dishes);
+[[nodiscard]] Dish *dishOf(const QVariant &item);
+/// The items whose dish belongs to a phase.
+[[nodiscard]] QVariantList itemsOfPhase(const QVariantList &items, int phase);
+
+} // namespace kesto

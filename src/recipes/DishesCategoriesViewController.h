@@ -1,0 +1,41 @@
+#pragma once
+
+#include "components/TableViewController.h"
+#include "recipes/DishDelegates.h"
+
+namespace kesto
+{
+
+class DietDay;
+
+/// The nine categories of the catalogue: to browse it, or to choose a dish for a day.
+class DishesCategoriesViewController : public TableViewController
+{
+    Q_OBJECT
+public:
+    /// To browse: a category becomes the main content.
+    DishesCategoriesViewController();
+    /// To choose a dish for a day of a phase (0 to 3): a category comes on the same stack.
+    DishesCategoriesViewController(DietDay *day, int dietPeriod);
+
+    /// Outlives this.
+    void setDelegate(AddDishDelegate *delegate) { delegate_ = delegate; }
+
+    [[nodiscard]] int numberOfRowsInSection(int section) const override;
+    [[nodiscard]] TableRow cellForRow(const IndexPath &path) const override;
+
+protected:
+    void viewDidLoad() override;
+    void didSelectRow(const IndexPath &path) override;
+
+private:
+    void browse(int category);
+
+    DietDay *day_ = nullptr;
+    int period_ = 0;
+    bool addDishMode_ = false;
+    AddDishDelegate *delegate_ = nullptr;
+    int selectedRow_ = -1; // on a tablet, where the category stands beside this list
+};
+
+} // namespace kesto

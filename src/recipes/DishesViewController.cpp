@@ -1,0 +1,215 @@
+#include "recipes/DishesViewController.h"
+
+#include "components/NavigationController.h"
+#include "components/Window.h"
+#include "model/DietDay.h"
+#include "model/Dish.h"
+#include "model/DishInDietDay.h"
+#include "model/DishesCategory.h"
+#include "model/JornalDay.h"
+#include "model/TimeRow.h"
+#include "platform/StringTables.h"
+#include "recipes/DishDetailViewController.h"
+#include "recipes/DishList.h"
+#include "recipes/PeriodSelectorViewController.h"
+#include "store/CoreDataManager.h"
+
+#include <QPointer>
+
+namespace kesto
+{
+
+namespace
+{
+
+constexpr int phaseCount = 4;
+
+bool isGone(const QVariant &item) { return dishOf(item)->isDeleted(); }
+
+} // namespace
+
+DishesViewController::DishesViewController(int category)
+    : DishesViewController(category, nullptr, 0, false)
+{
+}
+
+DishesViewController::DishesViewController(int category, DietDay *diedDay, int period)
+    : DishesViewController(category, diedDay, period, true)
+{
+}
+
+DishesViewController::DishesViewController(int category, DietDay *day, int period, bool addDishMode)
+    : categoryIndex_(category)
+    , category_(CoreDataManager::sharedManager().dishesCategoryForIndex(category))
+    , day_(day)
+    , period_(period)
+    , addDishMode_(addDishMode)
+{
+    setPeriodsScopes(true);
+    DishesViewController::reloadData();
+}
+
+void DishesViewController::viewDidLoad()
+{
+    if (Window::sharedWindow().isTablet())
+        setRightBarButtonItem(BarButtonItem::withImage(QStringLiteral("filter.png"),
+                                                       [this] { showPeriodSelector(QStringLiteral("bar/filter")); }));
+}
+
+// The screen that covered this one may have deleted, changed or added dishes.
+void DishesViewController::viewWillAppear()
+{
+    SearchBarDietTableViewController::viewWillAppear();
+    dropDeletedDishes();
+    refresh();
+}
+
+QString DishesViewController::emptyText() const { return localized(QStringLiteral("No recipes")); }
+
+QVariantList DishesViewController::markerColors() const
+{
+    QVariantList colors;
+    for (int phase = 0; phase < phaseCount; ++phase)
+        colors.append(*CoreDataManager::colorForPeriod(phase));
+    return colors;
+}
+
+void DishesViewController::reloadData()
+{
+    std::vector<Dish *> dishes;
+    if (category_ != nullptr)
+        dishes = category_->dishes();
+    sortByDisplayName(dishes);
+    setContent(addDishMode_ ? itemsOfPhase(itemsOf(dishes), period_) : itemsOf(dishes));
+    setCurrentItems(currentPeriod() != 0 ? itemsOfPhase(content(), currentPeriod()) : content());
+    DishesViewController::refresh();
+}
+
+QVariantList DishesViewController::filtedItemsForPeriod(int period) const
+{
+    constexpr int stabilizationBit = 4;
+    return (period & ~stabilizationBit) != 0 ? itemsOfPhase(content(), period - 1) : content();
+}
+
+void DishesViewController::dishAdded(Dish &dish)
+{
+    if (category_ != nullptr)
+        category_->addDishes(dish);
+    reloadData();
+}
+
+void DishesViewController::dishDeleted()
+{
+    endSearch();
+    reloadData();
+}
+
+bool DishesViewController::dayAlreadyIncludeDish(const Dish &dish) const { return dishesOfJournal().contains(&dish); }
+
+// Two statements, however long the journal and the list are.
+QSet<const Dish *> DishesViewController::dishesOfJournal() const
+{
+    QSet<const Dish *> dishes;
+    const JornalDay *journal = day_ != nullptr && !day_->isDeleted() ? day_->jornalDay() : nullptr;
+    if (journal == nullptr)
+        return dishes;
+    FetchRequest request;
+    request.predicate = attribute("joranlDay") == journal;
+    request.relationshipKeyPathsForPrefetching = {"dishesInDietDay"};
+    for (const TimeRow *row : journal->managedObjectContext().fetch<TimeRow>(request)) {
+        for (const DishInDietDay *placed : row->dishesInDietDay())
+            dishes.insert(placed->dish());
+    }
+    return dishes;
+}
+
+void DishesViewController::refresh()
+{
+    const QSet<const Dish *> included = addDishMode_ ? dishesOfJournal() : QSet<const Dish *>();
+    QList<DishTile> tiles;
+    tiles.reserve(items().size());
+    for (const QVariant &item : items()) {
+        const Dish &dish = *dishOf(item);
+        tiles.append(tileOf(dish, included.contains(&dish) || chosen_.contains(&dish)));
+    }
+    tiles_.setTiles(tiles);
+}
+
+DishTile DishesViewController::tileOf(const Dish &dish, bool checked) const
+{
+    DishTile tile{.dish = &dish, .title = displayName(dish), .checkable = addDishMode_, .checked = checked};
+    if (!dish.dishID().isNull())
+        tile.picture = dish.dishID() + QStringLiteral(".jpg");
+    if (dish.recipeNew().value_or(false))
+        tile.mark = localized(QStringLiteral("New"));
+    QStringList phases;
+    for (int phase = 0; phase < phaseCount; ++phase) {
+        if (!belongsToPhase(dish, phase))
+            continue;
+        tile.markers |= 1 << phase;
+        phases.append(CoreDataManager::periodNameForDietPeriod(phase));
+    }
+    tile.phases = phases.join(QStringLiteral(", "));
+    return tile;
+}
+
+void DishesViewController::dropDeletedDishes()
+{
+    QVariantList all = content();
+    if (all.removeIf(isGone) > 0)
+        setContent(all);
+    QVariantList current = currentItems();
+    if (current.removeIf(isGone) > 0)
+        setCurrentItems(current);
+}
+
+Dish *DishesViewController::dishAt(int row) const
+{
+    Dish *dish = row >= 0 && row < items().size() ? dishOf(items()[row]) : nullptr;
+    return dish != nullptr && !dish->isDeleted() ? dish : nullptr;
+}
+
+void DishesViewController::selectItem(int row)
+{
+    Dish *dish = dishAt(row);
+    if (dish == nullptr)
+        return;
+    auto screen = std::make_unique<DishDetailViewController>();
+    screen->setDish(dish);
+    screen->setDeleteDishDelegate(this);
+    if (addDishMode_) {
+        screen->setAlreadySelectedInDietDay(dayAlreadyIncludeDish(*dish));
+        screen->setDelegate(delegate_);
+        screen->setAddDishMode(true);
+    }
+    if (dish->recipeNew()) {
+        dish->setRecipeNew({});
+        (void)dish->managedObjectContext().save(); // nothing is lost: it goes along with the next save
+        DishTile tile = tiles_.tiles()[row];
+        tile.mark = QString();
+        tiles_.setTile(row, tile);
+    }
+    if (NavigationController *stack = navigationController())
+        stack->pushViewController(std::move(screen), true);
+}
+
+void DishesViewController::selectDishButtonTouchedAtIndexPath(int row)
+{
+    Dish *dish = dishAt(row);
+    if (!addDishMode_ || dish == nullptr || delegate_ == nullptr)
+        return;
+    const QPointer<DishesViewController> alive(this); // the delegate may close the screens
+    delegate_->addDish(*dish);
+    if (!alive)
+        return;
+    if (dishesPlannedFor(day_).contains(dish))
+        chosen_.insert(dish);
+    refresh();
+}
+
+std::unique_ptr<ViewController> DishesViewController::makePeriodSelector(int currentPeriod)
+{
+    return std::make_unique<PeriodSelectorViewController>(currentPeriod, this);
+}
+
+} // namespace kesto

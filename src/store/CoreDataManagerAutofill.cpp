@@ -1,0 +1,73 @@
+// How the store manager proposes the dishes of a day.
+
+#include "model/Dish.h"
+#include "model/DishesCategory.h"
+#include "platform/Log.h"
+#include "platform/Platform.h"
+#include "platform/RandomSource.h"
+#include "store/CoreDataManager.h"
+
+namespace kesto
+{
+
+namespace
+{
+
+/// The places in the catalogue of the categories that a day is made of.
+const std::vector<quint32> categoriesOfDay{1, 2, 3, 5, 7};
+constexpr int batchSize = 100;
+/// So many draws that miss the other dishes do not happen by chance.
+constexpr int mostDraws = 64;
+
+Dish *drawn(RandomSource &random, const std::vector<Dish *> &dishes)
+{
+    return dishes[random.uniform(static_cast<quint32>(dishes.size()))];
+}
+
+/// One of at least two dishes that is not the one taken already.
+Dish *drawnBeside(const Dish *taken, RandomSource &random, const std::vector<Dish *> &dishes)
+{
+    Dish *found = drawn(random, dishes);
+    for (int draws = 1; found == taken; ++draws) {
+        log("check dish - %@", found->nameRU());
+        log(QStringLiteral("alredy selected dish - skip it"));
+        // A source that gives the same number for ever must not hold the program: then it is the first other dish.
+        found = draws < mostDraws ? drawn(random, dishes) : dishes[dishes.front() == taken ? 1 : 0];
+    }
+    log("check dish - %@", found->nameRU());
+    log(QStringLiteral("add final dish and break"));
+    return found;
+}
+
+} // namespace
+
+std::vector<Dish *> CoreDataManager::autoFilledDishesForPeriod(int period)
+{
+    log(QStringLiteral("start finding autofiled dishes"));
+    FetchRequest request;
+    request.predicate = attribute("displayOrder").in(categoriesOfDay);
+    request.sortDescriptors = {{"displayOrder"}};
+    request.fetchLimit = static_cast<int>(categoriesOfDay.size());
+    request.fetchBatchSize = batchSize;
+    request.relationshipKeyPathsForPrefetching = {"dishes"};
+    const std::vector<DishesCategory *> categories = managedObjectContext()->fetch<DishesCategory>(request);
+    const QString digit = QString::number(period);
+    RandomSource &random = platform_.random();
+    std::vector<Dish *> proposed;
+    Dish *last = nullptr;
+    for (size_t i = 0; i < categories.size(); ++i) {
+        std::vector<Dish *> dishes = categories[i]->dishes();
+        std::erase_if(dishes, [&digit](const Dish *dish) { return !dish->dietPeriod().contains(digit); });
+        if (dishes.empty())
+            continue;
+        proposed.push_back(drawn(random, dishes));
+        if (i == 0 && dishes.size() > 1)
+            last = drawnBeside(proposed.front(), random, dishes);
+    }
+    if (last != nullptr)
+        proposed.push_back(last);
+    log(QStringLiteral("done find dishes"));
+    return proposed;
+}
+
+} // namespace kesto

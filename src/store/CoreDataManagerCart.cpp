@@ -1,0 +1,83 @@
+// What the store manager does with the shopping list.
+
+#include "model/Dish.h"
+#include "model/Ingredient.h"
+#include "model/Lookup.h"
+#include "model/PurhaseIngredient.h"
+#include "platform/Clock.h"
+#include "platform/Platform.h"
+#include "store/CoreDataManager.h"
+
+#include <algorithm>
+
+namespace kesto
+{
+
+namespace
+{
+
+void remove(PurhaseIngredient &line)
+{
+    ManagedObjectContext &context = line.managedObjectContext();
+    Ingredient *product = line.ingredient();
+    if (product != nullptr && product->dishRU() == nullptr && product->dishENG() == nullptr)
+        context.deleteObject(*product);
+    context.deleteObject(line);
+}
+
+} // namespace
+
+std::vector<PurhaseIngredient *> CoreDataManager::purhaseIngredients()
+{
+    FetchRequest request;
+    request.sortDescriptors = {{"date", false}};
+    request.fetchBatchSize = 100;
+    request.relationshipKeyPathsForPrefetching = {"ingredient"}; // every line shows its product's name
+    std::vector<PurhaseIngredient *> lines = context_->fetch<PurhaseIngredient>(request);
+    // Of those that came in one instant the last is the first, too.
+    for (auto run = lines.begin(); run != lines.end();) {
+        const auto end = std::find_if(
+            run, lines.end(), [date = (*run)->date()](const PurhaseIngredient *line) { return line->date() != date; });
+        std::reverse(run, end);
+        run = end;
+    }
+    return lines;
+}
+
+PurhaseIngredient *CoreDataManager::purchaseIngredintWithIng(const Ingredient &ingredient)
+{
+    return lastMatch<PurhaseIngredient>(*context_, attribute("ingredient.name") == ingredient.name());
+}
+
+void CoreDataManager::addIngredientToCard(const QString &text)
+{
+    if (text.startsWith(u'-'))
+        return;
+    const qsizetype quantity = text.indexOf(QStringLiteral(" - "));
+    const QString name = quantity < 0 ? text : text.left(quantity);
+    Ingredient &ingredient = Ingredient::ingredientWithName(name, *context_);
+    PurhaseIngredient *line = purchaseIngredintWithIng(ingredient);
+    if (line == nullptr) {
+        line = &context_->insert<PurhaseIngredient>();
+        line->setIngredient(&ingredient);
+    }
+    line->setDate(platform_.clock().now());
+    (void)context_->save();
+}
+
+void CoreDataManager::removePurchaseIngredientFromCard(PurhaseIngredient &line)
+{
+    remove(line);
+    (void)context_->save();
+}
+
+void CoreDataManager::removeAllPurchaseIngredientsFromCard()
+{
+    FetchRequest request;
+    request.relationshipKeyPathsForPrefetching = {"ingredient.purchaseIngredient"};
+    for (PurhaseIngredient *line : context_->fetch<PurhaseIngredient>(request))
+        remove(*line);
+    (void)context_->save(); // one a line would take minutes for a long list
+}
+
+} // namespace kesto

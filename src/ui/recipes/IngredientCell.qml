@@ -1,0 +1,60 @@
+import QtQuick
+import Kesto
+
+/*! A product: the sign of its kind, its name, the letters of its phases. */
+FocusScope {
+    id: cell
+
+    required property TableLine line
+
+    implicitHeight: Math.max(54, texts.height + Tokens.unit)
+    Accessible.role: Accessible.ListItem
+    Accessible.name: line.value
+    Accessible.focusable: true
+    Accessible.onPressAction: touch.choose()
+
+    RowSurface {
+        anchors.fill: parent
+        first: cell.line.isFirst
+        last: cell.line.isLast
+        inset: texts.x
+        color: touch.pressed && touch.containsMouse ? Tokens.colors.pressed : Tokens.colors.surface
+    }
+    MouseArea {
+        id: touch
+
+        function choose(): void {
+            cell.line.table.touched(cell.line);
+            cell.line.controller.selectRow(cell.line.section, cell.line.row);
+        }
+
+        anchors.fill: parent
+        onClicked: choose()
+    }
+    Icon {
+        id: icon
+
+        x: Tokens.margin
+        anchors.verticalCenter: parent.verticalCenter
+        name: cell.line.image
+    }
+    Column {
+        id: texts
+
+        x: icon.x + icon.width + Tokens.gap
+        anchors.verticalCenter: parent.verticalCenter
+        width: parent.width - x - Tokens.margin
+        spacing: 2
+
+        Label {
+            width: parent.width
+            text: cell.line.title
+            horizontalAlignment: Text.AlignLeft
+        }
+        PhaseLetters { badges: cell.line.badges }
+    }
+    FocusRing {
+        anchors.margins: 2
+        shown: cell.line.current
+    }
+}

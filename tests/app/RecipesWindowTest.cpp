@@ -1,0 +1,157 @@
+#include "app/WindowFixture.h"
+#include "components/NavigationController.h"
+#include "components/Window.h"
+#include "model/Dish.h"
+#include "platform/StringTables.h"
+#include "recipes/DishesCategoriesViewController.h"
+#include "recipes/DishesViewController.h"
+#include "recipes/FavoritesManager.h"
+#include "recipes/FavoritesViewController.h"
+#include "store/CoreDataManager.h"
+
+namespace kesto::test
+{
+
+namespace
+{
+
+struct Listening : AddDishDelegate
+{
+    void addDish(Dish &dish) override { added.append(dish.nameRU()); }
+    QStringList added;
+};
+
+class RecipesWindowTest : public WindowFixture
+{
+protected:
+    /// After the first start's preparation.
+    void startReady(Device device, const QSize &size)
+    {
+        start(device, size);
+        ASSERT_TRUE(person().waitsToSee(QAccessible::Heading, QStringLiteral("Калькулятор веса по Кесто")));
+    }
+    void present(std::unique_ptr<ViewController> screen)
+    {
+        program_->window().rootViewController()->presentViewController(
+            std::make_unique<NavigationController>(std::move(screen)), false);
+    }
+    static QString nameOf(const DishTile &tile)
+    {
+        QStringList parts{tile.title, tile.mark, tile.phases};
+        parts.removeAll(QString());
+        return parts.join(QStringLiteral(", "));
+    }
+    static bool tabsTo(const Person &user, const QString &name)
+    {
+        for (int step = 0; step < 15 && user.focus() != name; ++step)
+            user.presses(Qt::Key_Tab);
+        return user.focus() == name;
+    }
+};
+
+const QString salads = QStringLiteral("Салаты");
+
+TEST_F(RecipesWindowTest, BrowsesTheGridByKeys)
+{
+    startReady(Device::Phone, QSize(390, 844));
+    const Person user = person();
+    ASSERT_TRUE(user.touches(QAccessible::Button, QStringLiteral("Меню"))) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::ListItem, QStringLiteral("Рецепты блюд"))) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::ListItem, salads)) << user.view();
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, salads)) << user.view();
+    ASSERT_TRUE(user.waitsUntilGone(QAccessible::Heading, QStringLiteral("Рецепты"))) << "the menu closes";
+
+    DishesViewController same(0); // what the grid shows
+    const QList<DishTile> &tiles = same.tiles()->tiles();
+    ASSERT_GT(tiles.size(), 6);
+    EXPECT_EQ(tiles[0].mark, QStringLiteral("Новое"));
+    ASSERT_TRUE(user.waitsToSee(QAccessible::ListItem, nameOf(tiles[0]))) << user.view();
+    ASSERT_TRUE(tabsTo(user, nameOf(tiles[0]))) << user.focus().toStdString();
+    for (const auto &[key, tile] : {std::pair(Qt::Key_Right, 1),
+                                    {Qt::Key_Down, 3},
+                                    {Qt::Key_Left, 2},
+                                    {Qt::Key_Up, 0},
+                                    {Qt::Key_End, static_cast<int>(tiles.size()) - 1},
+                                    {Qt::Key_Home, 0},
+                                    {Qt::Key_Down, 2}}) {
+        user.presses(key);
+        EXPECT_EQ(user.focus().toStdString(), nameOf(tiles[tile]).toStdString());
+    }
+    user.presses(Qt::Key_Return);
+    EXPECT_TRUE(user.waitsUntilGone(QAccessible::Heading, salads)) << user.view();
+    user.presses(Qt::Key_Escape);
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, salads)) << user.view();
+    DishTile opened = tiles[2];
+    opened.mark = QString();
+    EXPECT_TRUE(user.waitsToSee(QAccessible::ListItem, nameOf(opened))) << user.view();
+
+    // The phases, by touch.
+    ASSERT_TRUE(user.touches(QAccessible::Button, QStringLiteral("Атака"))) << user.view();
+    same.updateToPeriod(1);
+    ASSERT_GT(tiles.size(), 0);
+    EXPECT_TRUE(user.waitsToSee(QAccessible::ListItem, nameOf(tiles[0]))) << user.view();
+}
+
+TEST_F(RecipesWindowTest, ATabletBrowsesBesideTheCategories)
+{
+    startReady(Device::Tablet, QSize(1180, 820));
+    const Person user = person();
+    ASSERT_TRUE(user.touches(QAccessible::ListItem, QStringLiteral("Рецепты блюд"))) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::ListItem, salads)) << user.view();
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, salads)) << user.view();
+    EXPECT_TRUE(user.sees(QAccessible::Heading, QStringLiteral("Рецепты"))) << "the categories stay beside it";
+    ASSERT_TRUE(user.touches(QAccessible::Button, localized(QStringLiteral("filter")))) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::ListItem, QStringLiteral("Консол."))) << user.view();
+    DishesViewController same(0);
+    same.updateToPeriod(3);
+    EXPECT_TRUE(user.waitsToSee(QAccessible::ListItem, nameOf(same.tiles()->tiles()[0]))) << user.view();
+    EXPECT_TRUE(user.waitsUntilGone(QAccessible::ListItem, QStringLiteral("Консол."))) << "the bubble closes";
+}
+
+TEST_F(RecipesWindowTest, ChoosesDishesByTouchAndByKeys)
+{
+    startReady(Device::Phone, QSize(390, 844));
+    const Person user = person();
+    Listening delegate;
+    auto categories = std::make_unique<DishesCategoriesViewController>(nullptr, 0);
+    categories->setDelegate(&delegate);
+    present(std::move(categories));
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, QStringLiteral("Добавить блюдо"))) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::ListItem, salads)) << user.view();
+    DishesViewController same(0, nullptr, 0);
+    const QList<DishTile> &tiles = same.tiles()->tiles();
+    ASSERT_GT(tiles.size(), 1);
+    const QString check = QStringLiteral("Добавить в план дня: ");
+    ASSERT_TRUE(user.touches(QAccessible::Button, check + tiles[1].title)) << user.view();
+    EXPECT_EQ(delegate.added, QStringList(tiles[1].title));
+    ASSERT_TRUE(tabsTo(user, nameOf(tiles[0]))) << user.focus().toStdString();
+    user.presses(Qt::Key_Space);
+    EXPECT_EQ(delegate.added, QStringList({tiles[1].title, tiles[0].title}));
+    EXPECT_TRUE(user.sees(QAccessible::Heading, salads)) << "a check opens nothing";
+
+    user.presses(Qt::Key_Escape);
+    ASSERT_TRUE(user.touches(QAccessible::Button, QStringLiteral("Закрыть"))) << user.view();
+    ASSERT_TRUE(user.waitsUntilGone(QAccessible::Heading, QStringLiteral("Добавить блюдо"))) << user.view();
+
+    // The favourites, likewise.
+    const Dish &dish = *tiles[0].dish;
+    FavoritesManager::sharedManager().addDishToFavorite(dish);
+    auto favourites = std::make_unique<FavoritesViewController>();
+    favourites->setIsAddMode(true);
+    favourites->setDelegate(&delegate);
+    present(std::move(favourites));
+    const QString row = dish.nameRU() + QStringLiteral(", Новое");
+    ASSERT_TRUE(user.waitsToSee(QAccessible::ListItem, row)) << user.view();
+    ASSERT_TRUE(tabsTo(user, row)) << user.focus().toStdString();
+    user.presses(Qt::Key_Space);
+    EXPECT_EQ(delegate.added.size(), 3);
+    ASSERT_TRUE(user.touches(QAccessible::Button, check + dish.nameRU())) << user.view();
+    EXPECT_EQ(delegate.added.size(), 4);
+    user.presses(Qt::Key_Return);
+    EXPECT_TRUE(user.waitsUntilGone(QAccessible::Heading, QStringLiteral("Избранные рецепты"))) << user.view();
+    EXPECT_EQ(delegate.added.size(), 4);
+}
+
+} // namespace
+
+} // namespace kesto::test

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "app/Person.h"
+#include "app/Program.h"
+#include "support/LogCapture.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include <memory>
+#include <optional>
+
+namespace kesto::test
+{
+
+/// The real program in a window without a screen.
+class WindowFixture : public testing::Test
+{
+protected:
+    /// A start of the program; the data stay from one to the next.
+    void start(Device device, const QSize &size, const QString &language = QStringLiteral("ru"));
+    /// Before the first start: there is nothing to import, and the diet, if any, began so many days ago.
+    void prepare(std::optional<int> daysOfDiet);
+    void TearDown() override;
+    [[nodiscard]] Person person() { return Person(program_->view()); }
+
+    LogCapture log_;
+    QTemporaryDir root_;
+    std::unique_ptr<Program> program_;
+};
+
+} // namespace kesto::test

@@ -1,0 +1,364 @@
+#include "RecipesFixture.h"
+
+#include "components/PopoverController.h"
+#include "objectgraph/StatementLog.h"
+#include "recipes/DishDetailViewController.h"
+#include "recipes/DishesCategoriesViewController.h"
+#include "recipes/DishesViewController.h"
+
+#include <QSignalSpy>
+
+namespace kesto::test
+{
+namespace
+{
+
+/// Seven salads, one soup.
+class DishesTest : public testing::Test
+{
+protected:
+    DishesTest() { fill(); }
+
+    void fill()
+    {
+        for (const auto &[nameRU, phases] :
+             {std::pair("ж", "0, 1"), {"б", "0"}, {"в", "1"}, {"а", "2"}, {"д", "3"}, {"е", "12"}, {"г", ""}})
+            program.addDish(QString::fromUtf8(nameRU), QString::fromUtf8(phases));
+        program.addDish(QStringLiteral("суп"), QStringLiteral("0"), 2);
+        program.save();
+    }
+    static QString titles(DishesViewController &screen)
+    {
+        QStringList list;
+        for (const DishTile &tile : screen.tiles()->tiles())
+            list.append(tile.title + (tile.checked ? QStringLiteral("!") : QString()));
+        return list.join(u' ');
+    }
+    static int rowOf(DishesViewController &screen, const char *title)
+    {
+        const QList<DishTile> &tiles = screen.tiles()->tiles();
+        return static_cast<int>(
+            std::find_if(tiles.begin(), tiles.end(),
+                         [&](const DishTile &tile) { return tile.title == QString::fromUtf8(title); }) -
+            tiles.begin());
+    }
+    /// In the window, on a stack of its own.
+    DishesViewController &show(std::unique_ptr<DishesViewController> screen)
+    {
+        DishesViewController &shown = *screen;
+        auto root = std::make_unique<NavigationController>(std::move(screen));
+        stack = root.get();
+        Window::sharedWindow().setRootViewController(std::move(root));
+        return shown;
+    }
+    ~DishesTest() override
+    {
+        Window::sharedWindow().setRootViewController(nullptr);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    RecipesFixture program;
+    NavigationController *stack = nullptr;
+};
+
+TEST_F(DishesTest, SortsACategoryByTheNameInTheLanguage)
+{
+    DishesViewController screen(0);
+    EXPECT_EQ(titles(screen), QStringLiteral("а б в г д е ж"));
+    EXPECT_EQ(names(screen.content()), QStringLiteral("а б в г д е ж"));
+    EXPECT_EQ(screen.category(), &program.category(0));
+    EXPECT_TRUE(screen.periodsScopes());
+    EXPECT_FALSE(screen.hasSearchBar());
+    EXPECT_EQ(titles(*std::make_unique<DishesViewController>(2)), QStringLiteral("суп"));
+    EXPECT_EQ(titles(*std::make_unique<DishesViewController>(7)), QString()) << "a category that is not there";
+}
+
+TEST_F(DishesTest, ScopesFilterByTheirPhase)
+{
+    DishesViewController screen(0);
+    QSignalSpy periods(&screen, &SearchBarDietTableViewController::currentPeriodChanged);
+    for (const auto &[scope, shown, afterReload] : {std::tuple(0, "а б в г д е ж", "а б в г д е ж"),
+                                                    {1, "б ж", "в е ж"},
+                                                    {2, "в е ж", "а е"},
+                                                    {3, "а е", "д"},
+                                                    {4, "а б в г д е ж", ""},
+                                                    {2, "в е ж", "а е"},
+                                                    {0, "а б в г д е ж", "а б в г д е ж"}}) {
+        SCOPED_TRACE(scope);
+        screen.updateToPeriod(scope);
+        EXPECT_EQ(screen.currentPeriod(), scope);
+        EXPECT_EQ(titles(screen).toStdString(), shown);
+        EXPECT_EQ(names(screen.filtedItemsForPeriod(scope)).toStdString(), shown);
+        // A reload filters by the number of the scope itself.
+        screen.reloadData();
+        EXPECT_EQ(titles(screen).toStdString(), afterReload);
+        EXPECT_EQ(screen.content().size(), 7);
+        EXPECT_EQ(names(screen.currentItems()).toStdString(), afterReload);
+    }
+    EXPECT_EQ(periods.count(), 7);
+}
+
+TEST_F(DishesTest, ATabletChoosesTheScopeInAPopover)
+{
+    Window::sharedWindow().setDevice(Window::Device::Phone);
+    EXPECT_TRUE(show(std::make_unique<DishesViewController>(0)).rightBarButtonItems().isEmpty());
+    Window::sharedWindow().setDevice(Window::Device::Tablet);
+    DishesViewController &screen = show(std::make_unique<DishesViewController>(0));
+    screen.updateToPeriod(2);
+    screen.rightBarButtonItems().value(0)->trigger();
+    ASSERT_NE(screen.popover(), nullptr);
+    auto *selector = qobject_cast<TableViewController *>(screen.popover()->content());
+    ASSERT_NE(selector, nullptr);
+    selector->loadViewIfNeeded();
+    EXPECT_EQ(selector->table()->rowAt({0, 2}).accessory, TableRow::Accessory::Checkmark);
+    selector->selectRow(0, 1);
+    EXPECT_EQ(screen.popover(), nullptr);
+    EXPECT_EQ(screen.currentPeriod(), 1);
+    EXPECT_EQ(titles(screen), QStringLiteral("б ж"));
+}
+
+TEST_F(DishesTest, TilesTellPhasesNewsAndPhotos)
+{
+    Dish &dish = program.dish("ж");
+    dish.setDishID(QStringLiteral("salad-7"));
+    program.dish("а").setRecipeNew(true);
+    program.dish("б").setRecipeNew(false);
+    DishesViewController screen(0);
+    const auto tile = [&](const char *title) { return screen.tiles()->tiles()[rowOf(screen, title)]; };
+    const auto colors = [&screen](const DishTile &of) {
+        QStringList list;
+        for (int phase = 0; phase < 4; ++phase) {
+            if ((of.markers & (1 << phase)) != 0)
+                list.append(screen.markerColors()[phase].value<QColor>().name());
+        }
+        return list.join(u' ');
+    };
+    EXPECT_EQ(colors(tile("ж")), QStringLiteral("#d23f3f #95cbf9"));
+    EXPECT_EQ(tile("ж").phases, QStringLiteral("Атака, Круиз"));
+    EXPECT_EQ(colors(tile("е")), QStringLiteral("#95cbf9 #81b74c"));
+    EXPECT_EQ(colors(tile("д")), QStringLiteral("#d2bd2f"));
+    EXPECT_EQ(colors(tile("г")), QString());
+    EXPECT_EQ(tile("ж").picture, QStringLiteral("salad-7.jpg"));
+    EXPECT_TRUE(tile("а").picture.isNull()) << "a dish of the user";
+    EXPECT_EQ(tile("а").mark, QStringLiteral("Новое"));
+    EXPECT_TRUE(tile("б").mark.isNull()) << "the mark goes by the value";
+    EXPECT_FALSE(tile("а").checkable);
+}
+
+TEST_F(DishesTest, OpeningADishClearsItsNewMarkForGood)
+{
+    program.dish("б").setRecipeNew(true);
+    program.dish("в").setRecipeNew(false);
+    program.dish("а").setRecipeNew(true);
+    program.save();
+    DishesViewController &screen = show(std::make_unique<DishesViewController>(0));
+    QSignalSpy changed(screen.tiles(), &QAbstractItemModel::dataChanged);
+    screen.selectItem(1);
+    ASSERT_EQ(changed.count(), 1) << "only the tile that was touched";
+    EXPECT_EQ(changed[0][0].toModelIndex().row(), 1);
+    EXPECT_EQ(changed[0][1].toModelIndex().row(), 1);
+    EXPECT_TRUE(screen.tiles()->tiles()[1].mark.isNull());
+    auto *opened = qobject_cast<DishDetailViewController *>(stack->topViewController());
+    ASSERT_NE(opened, nullptr);
+    EXPECT_EQ(opened->dish(), &program.dish("б"));
+
+    stack->popViewController(false);
+    screen.selectItem(2);
+    stack->popViewController(false);
+    screen.selectItem(-1);
+    screen.selectItem(7);
+    EXPECT_EQ(stack->topViewController(), &screen);
+    Window::sharedWindow().setRootViewController(nullptr);
+    program.restart();
+    EXPECT_EQ(program.dish("б").recipeNew(), std::nullopt);
+    EXPECT_EQ(program.dish("в").recipeNew(), std::nullopt) << "a value of false counts as new, too";
+    EXPECT_EQ(program.dish("а").recipeNew(), true);
+}
+
+TEST_F(DishesTest, DishesOfTheUserComeAndGo)
+{
+    DishesViewController &screen = show(std::make_unique<DishesViewController>(0));
+    auto &made = program.context().insert<Dish>();
+    made.setNameRU(QStringLiteral("бб"));
+    made.setDietPeriod(QStringLiteral("0, 2"));
+    screen.dishAdded(made);
+    EXPECT_EQ(made.dishCategory(), &program.category(0));
+    EXPECT_EQ(titles(screen), QStringLiteral("а б бб в г д е ж"));
+
+    screen.updateToPeriod(1);
+    EXPECT_EQ(titles(screen), QStringLiteral("б бб ж"));
+    screen.selectItem(1);
+    program.context().deleteObject(made);
+    program.save();
+    screen.dishDeleted();
+    EXPECT_EQ(names(screen.content()), QStringLiteral("а б в г д е ж"));
+    EXPECT_EQ(titles(screen), QStringLiteral("в е ж")) << "a reload goes by the scope's number";
+
+    // Deleted behind its back: gone from the list when it is seen again.
+    screen.updateToPeriod(1);
+    stack->popViewController(false);
+    auto cover = std::make_unique<NavigationController>();
+    screen.presentViewController(std::move(cover), false);
+    program.context().deleteObject(program.dish("ж"));
+    program.context().deleteObject(program.dish("а"));
+    screen.selectItem(1);
+    EXPECT_EQ(stack->topViewController(), &screen) << "what is gone can't be opened";
+    screen.dismissViewController(false);
+    EXPECT_EQ(titles(screen), QStringLiteral("б"));
+    EXPECT_EQ(names(screen.content()), QStringLiteral("б в г д е"));
+    program.save();
+    screen.updateToPeriod(0);
+    EXPECT_EQ(titles(screen), QStringLiteral("б в г д е"));
+}
+
+TEST_F(DishesTest, AddModeOffersThePhaseAndMarksWhatTheJournalHas)
+{
+    program.placeInJournal(program.dish("б"));
+    program.plan(program.dish("ж"));
+    AddingDelegate delegate(program, AddingDelegate::Into::Journal);
+    auto made = std::make_unique<DishesViewController>(0, &program.day(), 0);
+    made->setDelegate(&delegate);
+    DishesViewController &screen = show(std::move(made));
+    EXPECT_TRUE(screen.addDishMode());
+    EXPECT_EQ(titles(screen), QStringLiteral("б! ж")) << "what is planned only does not count";
+    EXPECT_TRUE(screen.tiles()->tiles()[0].checkable);
+    EXPECT_TRUE(screen.dayAlreadyIncludeDish(program.dish("б")));
+    EXPECT_FALSE(screen.dayAlreadyIncludeDish(program.dish("ж")));
+
+    QSignalSpy changed(screen.tiles(), &QAbstractItemModel::dataChanged);
+    screen.selectDishButtonTouchedAtIndexPath(1);
+    EXPECT_EQ(titles(screen), QStringLiteral("б! ж!"));
+    EXPECT_EQ(changed.count(), 1);
+    screen.selectDishButtonTouchedAtIndexPath(1);
+    EXPECT_EQ(delegate.added, QStringList({QStringLiteral("ж"), QStringLiteral("ж")})) << "the delegate decides";
+    screen.selectDishButtonTouchedAtIndexPath(2);
+    EXPECT_EQ(delegate.added.size(), 2);
+
+    delegate.into = AddingDelegate::Into::Plan;
+    DishesViewController planning(0, &program.day(), 2);
+    planning.setDelegate(&delegate);
+    EXPECT_EQ(titles(planning), QStringLiteral("а е"));
+    planning.selectDishButtonTouchedAtIndexPath(1);
+    planning.updateToPeriod(0);
+    EXPECT_EQ(titles(planning), QStringLiteral("а е!")) << "what was planned from here";
+
+    delegate.into = AddingDelegate::Into::Nothing;
+    DishesViewController none(0, &program.day(), 2);
+    none.setDelegate(&delegate);
+    EXPECT_EQ(titles(none), QStringLiteral("а е"));
+    none.selectDishButtonTouchedAtIndexPath(0);
+    EXPECT_EQ(titles(none), QStringLiteral("а е")) << "it was refused";
+}
+
+TEST_F(DishesTest, AddModeWithoutAJournalMarksNothing)
+{
+    program.placeInJournal(program.dish("б"));
+    DietDay &other = DietDay::dietDatWithDate(program.platform.date(2024, 3, 8), program.context());
+    EXPECT_EQ(titles(*std::make_unique<DishesViewController>(0, &other, 0)), QStringLiteral("б ж"));
+    EXPECT_EQ(titles(*std::make_unique<DishesViewController>(0, nullptr, 0)), QStringLiteral("б ж"));
+    DietDay &day = program.day();
+    program.context().deleteObject(day);
+    EXPECT_EQ(titles(*std::make_unique<DishesViewController>(0, &day, 0)), QStringLiteral("б ж"));
+}
+
+TEST_F(DishesTest, ADelegateMayCloseTheScreens)
+{
+    struct Closing : AddDishDelegate
+    {
+        void addDish(Dish &) override
+        {
+            Window::sharedWindow().setRootViewController(nullptr);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
+    } delegate;
+    auto made = std::make_unique<DishesViewController>(0, &program.day(), 0);
+    made->setDelegate(&delegate);
+    const QPointer<DishesViewController> screen(&show(std::move(made)));
+    screen->selectDishButtonTouchedAtIndexPath(0);
+    EXPECT_TRUE(screen.isNull());
+}
+
+TEST_F(DishesTest, CategoriesOpenInTheirOrder)
+{
+    DetailShell shell;
+    DishesCategoriesViewController browse;
+    browse.loadViewIfNeeded();
+    EXPECT_EQ(browse.title(), QStringLiteral("Рецепты"));
+    EXPECT_TRUE(browse.leftBarButtonItems().isEmpty());
+    ASSERT_EQ(browse.table()->numberOfRowsInSection(0), 9);
+    for (int row = 0; row < 9; ++row) {
+        EXPECT_EQ(browse.table()->rowAt({0, row}).image, QStringLiteral("%1_recipes_icon").arg(row));
+        browse.selectRow(0, row);
+        auto *grid = qobject_cast<DishesViewController *>(shell.detail->topViewController());
+        ASSERT_NE(grid, nullptr);
+        EXPECT_EQ(grid->title(), browse.table()->rowAt({0, row}).title);
+        EXPECT_EQ(grid->categoryIndex(), row);
+        EXPECT_FALSE(grid->addDishMode());
+    }
+    EXPECT_EQ(browse.table()->rowAt({0, 6}).title, QStringLiteral("Блины, оладьи"));
+
+    AddingDelegate delegate(program, AddingDelegate::Into::Nothing);
+    auto add = std::make_unique<DishesCategoriesViewController>(&program.day(), 1);
+    add->setDelegate(&delegate);
+    DishesCategoriesViewController &adding = *add;
+    auto root = std::make_unique<NavigationController>(std::make_unique<DishesCategoriesViewController>());
+    NavigationController &under = *root;
+    Window::sharedWindow().setRootViewController(std::move(root));
+    under.pushViewController(std::move(add), false);
+    EXPECT_EQ(adding.title(), QStringLiteral("Добавить блюдо"));
+    adding.selectRow(0, 0);
+    auto *grid = qobject_cast<DishesViewController *>(under.topViewController());
+    ASSERT_NE(grid, nullptr);
+    EXPECT_EQ(grid->title(), QStringLiteral("Салаты"));
+    EXPECT_EQ(titles(*grid), QStringLiteral("в е ж"));
+    grid->selectDishButtonTouchedAtIndexPath(0);
+    EXPECT_EQ(delegate.added, QStringList(QStringLiteral("в")));
+    under.popViewController(false);
+    ASSERT_EQ(adding.leftBarButtonItems().size(), 1);
+    EXPECT_EQ(adding.leftBarButtonItems()[0]->image(), QStringLiteral("Plus.png"));
+    adding.leftBarButtonItems()[0]->trigger();
+    EXPECT_EQ(under.viewControllers().size(), 1);
+}
+
+TEST(Dishes, AreSortedByTheirEnglishNamesInEnglish)
+{
+    TestPlatform::Options english;
+    english.language = QStringLiteral("en");
+    RecipesFixture other(english);
+    other.addDish(QStringLiteral("а"), {}, 0, QStringLiteral("Zander"));
+    other.addDish(QStringLiteral("б"), {}, 0, QStringLiteral("Apple"));
+    other.addDish(QStringLiteral("в"), {}, 0);
+    other.addDish(QStringLiteral("г"), {}, 0, QStringLiteral("apple"));
+    DishesViewController inEnglish(0);
+    EXPECT_EQ(names(inEnglish.content()), QStringLiteral("в б а г")) << "without a name first, capitals before others";
+}
+
+TEST(Dishes, TakeAsManyStatementsForAnyNumber)
+{
+    StatementLog log;
+    QList<qsizetype> counts;
+    for (const int size : {3, 300}) {
+        RecipesFixture program;
+        for (int i = 0; i < size; ++i) {
+            Dish &dish = program.addDish(QString::number(i), QStringLiteral("0"));
+            if (i % 2 == 0)
+                program.placeInJournal(dish);
+        }
+        program.save();
+        program.restart();
+        DietDay &day = program.day();
+        (void)log.take();
+        DishesViewController screen(0, &day, 0);
+        counts.append(log.count());
+        EXPECT_EQ(screen.tiles()->count(), size);
+        EXPECT_TRUE(screen.tiles()->tiles()[0].checked);
+        screen.updateToPeriod(1);
+        counts.append(log.count());
+    }
+    EXPECT_EQ(counts[2], counts[0]);
+    EXPECT_EQ(counts[3], counts[1]);
+    EXPECT_LE(counts[0], 5);
+}
+
+} // namespace
+} // namespace kesto::test
