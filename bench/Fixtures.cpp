@@ -83,38 +83,6 @@ void mustSave(ManagedObjectContext &context)
         fail(error.description);
 }
 
-void insertDiary(const std::vector<QDateTime> &days, ManagedObjectContext &context)
-{
-    Texts texts;
-    for (int i = 0; i < kDays; ++i) {
-        auto &day = context.insert<DietDay>();
-        day.setDate(days[static_cast<size_t>(i)]);
-        day.setWeight(60.0F + static_cast<float>(texts.next(300)) / 10);
-        if (i % 7 == 0) {
-            day.setChest(static_cast<float>(90 + texts.next(20)));
-            day.setWaist(static_cast<float>(70 + texts.next(20)));
-        }
-        if (i % 2 == 0)
-            day.setChB(true);
-        auto &journal = context.insert<JornalDay>();
-        journal.setSportDay(i % 3 == 0);
-        journal.setMeatSportActivity(1 + texts.next(4));
-        day.setJornalDay(&journal);
-        const int rows = kTimeRows * (i + 1) / kDays - kTimeRows * i / kDays;
-        for (int row = 0; row < rows; ++row) {
-            auto &time = context.insert<TimeRow>();
-            time.setTime(7.0F + static_cast<float>(row) * 2.5F);
-            time.setCompleate(texts.next(2) == 0);
-            time.setRemind(row == 0);
-            if (row == 0)
-                time.setReminderDate(days[static_cast<size_t>(i)].addSecs(7 * 3600));
-            if (row == 1)
-                time.setOtherTimeObject(texts.words(true, 2));
-            time.setJoranlDay(&journal);
-        }
-    }
-}
-
 } // namespace
 
 Fixtures::Fixtures()
@@ -231,6 +199,38 @@ void OpenStore::close()
 {
     context_.reset();
     coordinator_.reset();
+}
+
+void insertDiary(const std::vector<QDateTime> &days, ManagedObjectContext &context)
+{
+    Texts texts;
+    for (int i = 0; i < static_cast<int>(days.size()); ++i) {
+        auto &day = context.insert<DietDay>();
+        day.setDate(days[static_cast<size_t>(i)]);
+        day.setWeight(60.0F + static_cast<float>(texts.next(300)) / 10);
+        if (i % 7 == 0) {
+            day.setChest(static_cast<float>(90 + texts.next(20)));
+            day.setWaist(static_cast<float>(70 + texts.next(20)));
+        }
+        if (i % 2 == 0)
+            day.setChB(true);
+        auto &journal = context.insert<JornalDay>();
+        journal.setSportDay(i % 3 == 0);
+        journal.setMeatSportActivity(1 + texts.next(4));
+        day.setJornalDay(&journal);
+        const int rows = kTimeRows * (i + 1) / kDays - kTimeRows * i / kDays;
+        for (int row = 0; row < rows; ++row) {
+            auto &time = context.insert<TimeRow>();
+            time.setTime(7.0F + static_cast<float>(row) * 2.5F);
+            time.setCompleate(texts.next(2) == 0);
+            time.setRemind(row == 0);
+            if (row == 0)
+                time.setReminderDate(days[static_cast<size_t>(i)].addSecs(7 * 3600));
+            if (row == 1)
+                time.setOtherTimeObject(texts.words(true, 2));
+            time.setJoranlDay(&journal);
+        }
+    }
 }
 
 void insertCatalogue(const Fixtures &fixtures, ManagedObjectContext &context)

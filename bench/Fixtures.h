@@ -103,6 +103,9 @@ private:
     std::unique_ptr<ManagedObjectContext> context_;
 };
 
+/// Puts the days in, each with a journal, and time rows in the measure of ten years' 20,000; the caller saves.
+void insertDiary(const std::vector<QDateTime> &days, ManagedObjectContext &context);
+
 /// Puts the dishes in as an importer does; the caller saves.
 void insertCatalogue(const Fixtures &fixtures, ManagedObjectContext &context);
 

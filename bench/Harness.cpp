@@ -17,14 +17,19 @@ struct Turn
 {
     const Contender *contender;
     std::unique_ptr<Trial> trial;
-    std::vector<double> nanoseconds;
+    std::vector<double> nanoseconds = {};
+    std::vector<double> kilobytes = {};
 };
 
-double timed(Trial &trial)
+void takeTurn(Turn &turn)
 {
     const auto start = std::chrono::steady_clock::now();
-    trial.run();
-    return std::chrono::duration<double, std::nano>(std::chrono::steady_clock::now() - start).count();
+    turn.trial->run();
+    const std::chrono::duration<double, std::nano> taken = std::chrono::steady_clock::now() - start;
+    const Told told = turn.trial->told();
+    turn.nanoseconds.push_back(told.nanoseconds.value_or(taken.count()));
+    if (told.kilobytes)
+        turn.kilobytes.push_back(*told.kilobytes);
 }
 
 } // namespace
@@ -34,7 +39,7 @@ Measurement Harness::measure(const Workload &workload)
     Measurement measurement;
     count(workload, measurement);
     runRound(workload, nullptr); // the first round warms up
-    for (int round = 0; round < rounds_; ++round)
+    for (int round = 0; round < std::min(rounds_, workload.mostRounds); ++round)
         runRound(workload, &measurement);
     return measurement;
 }
@@ -46,7 +51,7 @@ void Harness::count(const Workload &workload, Measurement &measurement) const
         const std::unique_ptr<Trial> trial = contender.prepare();
         probe.reset();
         trial->run();
-        measurement.counts[contender.name] = {probe.statements(), probe.syncs()};
+        measurement.counts[contender.name] = {trial->told().statements.value_or(probe.statements()), probe.syncs()};
     }
 }
 
@@ -55,7 +60,7 @@ void Harness::runRound(const Workload &workload, Measurement *measurement)
     std::vector<Turn> turns;
     for (const Contender &contender : workload.contenders) {
         if (!contender.onlyCounted)
-            turns.push_back({&contender, nullptr, {}});
+            turns.push_back({&contender, nullptr});
     }
     std::shuffle(turns.begin(), turns.end(), random_);
     if (workload.repeats == 1) {
@@ -63,7 +68,7 @@ void Harness::runRound(const Workload &workload, Measurement *measurement)
         std::optional<quint64> agreed;
         for (Turn &turn : turns) {
             turn.trial = turn.contender->prepare();
-            turn.nanoseconds.push_back(timed(*turn.trial));
+            takeTurn(turn);
             const quint64 checksum = turn.trial->checksum();
             if (agreed.value_or(checksum) != checksum)
                 fail(QString::fromStdString(workload.name + ": the contenders disagree"));
@@ -78,7 +83,7 @@ void Harness::runRound(const Workload &workload, Measurement *measurement)
         for (int repeat = 0; repeat < workload.repeats; ++repeat) {
             std::shuffle(order.begin(), order.end(), random_);
             for (const size_t i : order)
-                turns[i].nanoseconds.push_back(timed(*turns[i].trial));
+                takeTurn(turns[i]);
         }
         const quint64 checksum = turns.front().trial->checksum();
         for (size_t i = 1; i < turns.size(); ++i) {
@@ -87,8 +92,11 @@ void Harness::runRound(const Workload &workload, Measurement *measurement)
         }
     }
     if (measurement != nullptr) {
-        for (const Turn &turn : turns)
+        for (const Turn &turn : turns) {
             measurement->nanoseconds[turn.contender->name].push_back(median(turn.nanoseconds));
+            if (!turn.kilobytes.empty())
+                measurement->kilobytes[turn.contender->name].push_back(median(turn.kilobytes));
+        }
     }
 }
 

@@ -17,6 +17,7 @@ struct Measurement
         int syncs = 0;
     };
     std::map<std::string, std::vector<double>> nanoseconds; ///< by contender, one figure a round
+    std::map<std::string, std::vector<double>> kilobytes;   ///< likewise, of those who tell
     std::map<std::string, Counts> counts;                   ///< by contender, of one run()
 };
 

@@ -43,6 +43,20 @@ size_t width(const std::string &text)
                                              [](char byte) { return (static_cast<unsigned>(byte) & 0xc0U) != 0x80; }));
 }
 
+std::vector<double> ratios(const std::vector<double> &ours, const std::vector<double> &others)
+{
+    std::vector<double> values;
+    for (size_t round = 0; round < ours.size(); ++round)
+        values.push_back(ours[round] / others[round]); // within a round: a machine that slows down slows both
+    return values;
+}
+
+std::string withQuartiles(const std::vector<double> &values)
+{
+    return formatted("%.2f", median(values)) + formatted(" (%.2f", quantile(values, 0.25)) +
+           formatted(" … %.2f)", quantile(values, 0.75));
+}
+
 } // namespace
 
 void Report::add(const Workload &workload, const Measurement &measurement)
@@ -63,12 +77,15 @@ void Report::add(const Workload &workload, const Measurement &measurement)
         switch (bar.kind) {
         case Bar::Kind::TimesContender:
             break;
+        case Bar::Kind::MemoryTimesContender:
+            addMemory(workload, measurement, bar);
+            break;
         case Bar::Kind::NanosecondsEach: {
             const double each = median(measurement.nanoseconds.at(ours)) / workload.items;
             addRow(workload, {.ours = duration(each),
                               .measured = "time",
                               .value = duration(each),
-                              .bar = "≤ " + number(bar.limit) + " ns",
+                              .bar = "≤ " + duration(bar.limit),
                               .verdict = verdict(each <= bar.limit)});
             break;
         }
@@ -92,6 +109,17 @@ void Report::add(const Workload &workload, const Measurement &measurement)
                               .bar = "= " + number(bar.limit),
                               .verdict = verdict(counts.syncs == bar.limit)});
             break;
+        case Bar::Kind::Share99AtMost:
+        case Bar::Kind::LongestAtMost: {
+            const bool longest = bar.kind == Bar::Kind::LongestAtMost;
+            const double value = quantile(*workload.samples, longest ? 1 : 0.99);
+            addRow(workload, {.ours = duration(median(*workload.samples)),
+                              .measured = longest ? "longest" : "99 of 100 below",
+                              .value = duration(value),
+                              .bar = "≤ " + duration(bar.limit),
+                              .verdict = verdict(value <= bar.limit)});
+            break;
+        }
         }
     }
 }
@@ -100,26 +128,32 @@ void Report::addRatio(const Workload &workload, const Measurement &measurement, 
                       double limit)
 {
     const std::vector<double> &ours = measurement.nanoseconds.at(workload.contenders.front().name);
-    const std::vector<double> &others = measurement.nanoseconds.at(against);
-    std::vector<double> ratios;
-    for (size_t round = 0; round < ours.size(); ++round)
-        ratios.push_back(ours[round] / others[round]);
-    const double ratio = median(ratios); // within a round: a machine that slows down meanwhile slows both
+    const std::vector<double> values = ratios(ours, measurement.nanoseconds.at(against));
     addRow(workload, {.ours = duration(median(ours) / workload.items),
                       .measured = "× " + against,
-                      .value = formatted("%.2f", ratio) + formatted(" (%.2f", quantile(ratios, 0.25)) +
-                               formatted(" … %.2f)", quantile(ratios, 0.75)),
+                      .value = withQuartiles(values),
                       .bar = limit > 0 ? "≤ " + number(limit) : "",
-                      .verdict = limit > 0 ? verdict(ratio <= limit) : ""});
+                      .verdict = limit > 0 ? verdict(median(values) <= limit) : ""});
+}
+
+void Report::addMemory(const Workload &workload, const Measurement &measurement, const Bar &bar)
+{
+    const std::vector<double> &ours = measurement.kilobytes.at(workload.contenders.front().name);
+    const std::vector<double> values = ratios(ours, measurement.kilobytes.at(bar.against));
+    addRow(workload, {.ours = formatted("%.1f MB", median(ours) / 1024),
+                      .measured = "memory × " + bar.against,
+                      .value = withQuartiles(values),
+                      .bar = "≤ " + number(bar.limit),
+                      .verdict = verdict(median(values) <= bar.limit)});
 }
 
 void Report::addRow(const Workload &workload, Row row)
 {
-    const bool first =
-        std::none_of(rows_.begin(), rows_.end(), [&](const Row &other) { return other.workload == workload.name; });
-    if (first)
+    const auto first =
+        std::find_if(rows_.begin(), rows_.end(), [&](const Row &other) { return other.workload == workload.name; });
+    if (first == rows_.end())
         row.workload = workload.name;
-    else
+    else if (row.ours == first->ours)
         row.ours.clear();
     rows_.push_back(std::move(row));
 }

@@ -26,6 +26,7 @@ private:
         std::string workload = {}, ours = {}, measured = {}, value = {}, bar = {}, verdict = {};
     };
     void addRatio(const Workload &workload, const Measurement &measurement, const std::string &against, double limit);
+    void addMemory(const Workload &workload, const Measurement &measurement, const Bar &bar);
     void addRow(const Workload &workload, Row row);
 
     int rounds_;

@@ -3,12 +3,22 @@
 #include <QtGlobal>
 
 #include <functional>
+#include <limits>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace kesto::bench
 {
+
+/// What a trial knows better than who runs it, because it goes on in another process.
+struct Told
+{
+    std::optional<double> nanoseconds = {}; ///< of the last run()
+    std::optional<double> kilobytes = {};   ///< of memory, after it
+    std::optional<int> statements = {};     ///< of the last run()
+};
 
 /// One contender's turn in one round: made ready in its constructor, outside the measurement, and measured in run().
 class Trial
@@ -18,6 +28,8 @@ public:
     virtual void run() = 0;
     /// Of what was read or written, taken outside the measurement; all contenders must agree.
     [[nodiscard]] virtual quint64 checksum() = 0;
+    /// Asked after each run(), outside the measurement.
+    [[nodiscard]] virtual Told told() { return {}; }
 };
 
 struct Contender
@@ -31,11 +43,14 @@ struct Contender
 struct Bar
 {
     enum class Kind {
-        TimesContender,  ///< our median over that of the contender named in `against`
-        NanosecondsEach, ///< our median for one item
+        TimesContender,       ///< our median over that of the contender named in `against`
+        MemoryTimesContender, ///< likewise, of memory
+        NanosecondsEach,      ///< our median for one item
         StatementsAtMost,
         StatementsAsFor, ///< as many as the contender named in `against`
         SyncsExactly,
+        Share99AtMost, ///< nanoseconds that 99 of 100 samples stay below
+        LongestAtMost, ///< nanoseconds of the longest sample
     };
     Kind kind;
     double limit = 0;
@@ -49,6 +64,9 @@ struct Workload
     std::vector<Bar> bars;             ///< contenders without a bar are shown, too
     int items = 1;                     ///< done by one run(); times are shown for one
     int repeats = 1;                   ///< run() in turn this often in a round; the round's time is the median
+    int mostRounds = std::numeric_limits<int>::max(); ///< for what takes long
+    /// Nanoseconds of each item, where the runs collect them: of all runs of ours, the ones that warm up as well.
+    std::shared_ptr<std::vector<double>> samples = {};
 };
 
 template <class T, class... Arguments>

@@ -6,9 +6,20 @@ namespace kesto::bench
 std::vector<Workload> allWorkloads(Fixtures &fixtures)
 {
     return {
-        importOfCatalogue(fixtures), fetchOfIngredients(fixtures),  walkOverDishes(fixtures),
-        lookUpOfDays(fixtures),      lookUpByIdentity(fixtures),    saveOfOneDay(fixtures),
-        daysWithJournals(fixtures),  parseOfPropertyList(fixtures), firstStart(fixtures),
+        importOfCatalogue(fixtures),
+        fetchOfIngredients(fixtures),
+        walkOverDishes(fixtures),
+        lookUpOfDays(fixtures),
+        lookUpByIdentity(fixtures),
+        saveOfOneDay(fixtures),
+        daysWithJournals(fixtures),
+        parseOfPropertyList(fixtures),
+        firstStart(fixtures),
+        menuAtStart(fixtures),
+        menuWithTenYears(fixtures),
+        monthChange(fixtures),
+        scrollOnPhone(),
+        scrollOnTablet(),
     };
 }
 

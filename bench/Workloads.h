@@ -17,6 +17,11 @@ class Fixtures;
 [[nodiscard]] Workload daysWithJournals(Fixtures &fixtures);
 [[nodiscard]] Workload parseOfPropertyList(Fixtures &fixtures);
 [[nodiscard]] Workload firstStart(Fixtures &fixtures);
+[[nodiscard]] Workload menuAtStart(Fixtures &fixtures);
+[[nodiscard]] Workload menuWithTenYears(Fixtures &fixtures);
+[[nodiscard]] Workload monthChange(Fixtures &fixtures);
+[[nodiscard]] Workload scrollOnPhone();
+[[nodiscard]] Workload scrollOnTablet();
 
 /// All of them, in the order of the table. A new workload is a function above, a file, and a line in there.
 [[nodiscard]] std::vector<Workload> allWorkloads(Fixtures &fixtures);

@@ -4,8 +4,8 @@
 #include "Workloads.h"
 
 #include <QCommandLineParser>
-#include <QCoreApplication>
 #include <QFile>
+#include <QGuiApplication>
 
 #include <cstdio>
 
@@ -13,7 +13,9 @@ using namespace kesto::bench;
 
 int main(int argc, char **argv)
 {
-    QCoreApplication application(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    QGuiApplication application(argc, argv);
     QCommandLineParser options;
     options.setApplicationDescription(
         QStringLiteral("Measures the store and the parsers against raw baselines and prints the ratios."));

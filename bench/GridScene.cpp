@@ -1,0 +1,132 @@
+#include "GridScene.h"
+
+#include "BaselineDatabase.h"
+
+#include "import/SQLiteParser.h"
+#include "model/Dish.h"
+#include "model/DishesCategory.h"
+#include "platform/Clock.h"
+#include "platform/Platform.h"
+#include "platform/RandomSource.h"
+#include "platform/StringTables.h"
+#include "platform/UserDefaults.h"
+#include "recipes/DishesViewController.h"
+#include "store/CoreDataManager.h"
+#include "ui/Appearance.h"
+#include "ui/UserInterface.h"
+
+#include <QHash>
+#include <QImage>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickRenderControl>
+#include <QQuickRenderTarget>
+#include <QQuickWindow>
+#include <QTemporaryDir>
+
+#include <optional>
+
+namespace kesto::bench
+{
+
+struct GridScene::Parts
+{
+    explicit Parts(const QSize &size)
+        : defaults(folder.filePath(QStringLiteral("defaults.plist")))
+        , platform(Platform::Services{.documentsFolder = folder.path(),
+                                      .resourcesFolder = QStringLiteral(KESTO_RESOURCES_FOLDER),
+                                      .version = {},
+                                      .userDefaults = &defaults,
+                                      .strings = &strings,
+                                      .notifications = nullptr,
+                                      .clock = &clock,
+                                      .random = &random,
+                                      .cloudStore = nullptr,
+                                      .calendar = Calendar()})
+        , appearance(nullptr)
+        , image(size, QImage::Format_ARGB32_Premultiplied)
+        , window(&control)
+    {
+    }
+
+    QTemporaryDir folder;
+    UserDefaults defaults;
+    StringTables strings{QStringLiteral(KESTO_RESOURCES_FOLDER), QStringLiteral("ru")};
+    SystemClock clock;
+    SystemRandomSource random;
+    Platform platform;
+    std::optional<DishesViewController> controller;
+    Appearance appearance;
+    QQmlEngine engine;
+    QImage image;
+    QQuickRenderControl control;
+    QQuickWindow window;
+    std::unique_ptr<QQuickItem> view;
+    QQuickItem *grid = nullptr;
+};
+
+namespace
+{
+
+void giveAllDishesTo(int index)
+{
+    const auto before = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    CoreDataManager &manager = CoreDataManager::sharedManager();
+    manager.persistentStoreCoordinator()->waitForBackgroundWork();
+    SQLiteParser::parse();
+    qInstallMessageHandler(before);
+    DishesCategory *category = manager.dishesCategoryForIndex(index);
+    for (Dish *dish : manager.managedObjectContext()->fetch<Dish>())
+        dish->setDishCategory(category);
+}
+
+} // namespace
+
+GridScene::GridScene(const QSize &size)
+    : parts_(std::make_unique<Parts>(size))
+{
+    giveAllDishesTo(0);
+    parts_->controller.emplace(0);
+    UserInterface::prepare(parts_->engine, parts_->platform);
+    parts_->appearance.giveTo(parts_->engine);
+    parts_->appearance.setMotion(false);
+
+    QQmlComponent component(&parts_->engine, QUrl(QStringLiteral("qrc:/qt/qml/Kesto/recipes/DishesView.qml")));
+    QObject *made = component.createWithInitialProperties(
+        {{QStringLiteral("controller"), QVariant::fromValue(&*parts_->controller)}});
+    parts_->view.reset(qobject_cast<QQuickItem *>(made));
+    if (parts_->view == nullptr)
+        fail(component.errorString());
+    parts_->grid = parts_->view->findChild<QQuickItem *>(QStringLiteral("tiles"));
+    parts_->window.setGeometry(0, 0, size.width(), size.height());
+    parts_->window.contentItem()->setSize(size);
+    parts_->view->setParentItem(parts_->window.contentItem());
+    parts_->view->setSize(size);
+    parts_->window.setRenderTarget(QQuickRenderTarget::fromPaintDevice(&parts_->image));
+    drawFrame();
+}
+
+GridScene::~GridScene() = default;
+
+int GridScene::dishCount() const { return parts_->controller->tiles()->count(); }
+
+double GridScene::length() const { return parts_->grid->property("contentHeight").toDouble() - parts_->grid->height(); }
+
+void GridScene::scrollTo(double position) { parts_->grid->setProperty("contentY", position); }
+
+void GridScene::drawFrame()
+{
+    parts_->control.polishItems();
+    parts_->control.beginFrame();
+    parts_->control.sync();
+    parts_->control.render();
+    parts_->control.endFrame();
+}
+
+quint64 GridScene::checksum() const
+{
+    return qHashBits(parts_->image.constBits(), static_cast<size_t>(parts_->image.sizeInBytes()));
+}
+
+} // namespace kesto::bench
