@@ -55,9 +55,10 @@ std::unique_ptr<Program> Program::start(const Options &options, QString *error)
     if (program->services_ == nullptr)
         return nullptr;
     program->arrangeWindow(options);
+    program->userInterface_ =
+        std::make_unique<UserInterface>(program->platform()); // first: it reads on while others work
     program->delegate_ = std::make_unique<AppDelegate>(program->platform());
     (void)program->delegate_->application(AppDelegate::LaunchOptions());
-    program->userInterface_ = std::make_unique<UserInterface>(program->platform());
     program->userInterface_->appearance().followSystem();
     if (!program->userInterface_->load()) {
         *error = QStringLiteral("The interface can't be loaded.");

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "components/ViewController.h"
+#include "components/Window.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -11,7 +14,6 @@ namespace kesto
 class Platform;
 class Program;
 class RootViewConrollerViewController;
-class Window;
 
 /// Leads through the screens of a running program, by what a person could do, and takes their pictures.
 class TourGuide
@@ -23,6 +25,13 @@ public:
     [[nodiscard]] Platform &platform();
     [[nodiscard]] Window &window();
     [[nodiscard]] RootViewConrollerViewController &menu();
+    /// The screen of a kind that was opened last; null without one.
+    template <class Screen>
+    [[nodiscard]] Screen *screenOf()
+    {
+        const QList<Screen *> found = window().rootViewController()->findChildren<Screen *>();
+        return found.isEmpty() ? nullptr : found.last();
+    }
 
     /// Brings the menu in on a phone; on a tablet in portrait as well.
     void openMenu();

@@ -5,7 +5,6 @@
 #include "components/AlertCenter.h"
 #include "components/NavigationController.h"
 #include "components/Shell.h"
-#include "components/Window.h"
 #include "model/Dish.h"
 #include "model/DishesCategory.h"
 #include "model/Ingredient.h"
@@ -30,14 +29,6 @@ constexpr int productsRow = 2;
 constexpr int cartRow = 8;
 
 ManagedObjectContext &context() { return *CoreDataManager::sharedManager().managedObjectContext(); }
-
-/// The screen of a kind that was opened last.
-template <class Screen>
-Screen *screenOf(TourGuide &guide)
-{
-    const QList<Screen *> found = guide.window().rootViewController()->findChildren<Screen *>();
-    return found.isEmpty() ? nullptr : found.last();
-}
 
 Dish *someDish()
 {
@@ -86,7 +77,7 @@ void openPicture(TourGuide &guide)
 {
     openDish(someDish(), false);
     guide.settle();
-    if (auto *screen = screenOf<DishDetailViewController>(guide); screen != nullptr && screen->navigationController())
+    if (auto *screen = guide.screenOf<DishDetailViewController>(); screen != nullptr && screen->navigationController())
         screen->navigationController()->pushViewController(
             std::make_unique<ImageViewController>(QStringLiteral("app_icon"), screen->name()), false);
 }
@@ -95,14 +86,17 @@ CartViewController *openCart(TourGuide &guide)
 {
     guide.openRow(cartRow);
     guide.settle();
-    return screenOf<CartViewController>(guide);
+    return guide.screenOf<CartViewController>();
 }
 
 /// A list on its way through the shop.
 CartViewController *openFullCart(TourGuide &guide)
 {
     CoreDataManager &manager = CoreDataManager::sharedManager();
-    if (Dish *dish = someDish(); dish != nullptr && manager.purhaseIngredients().empty()) {
+    const Dish *dish = someDish();
+    const std::vector<PurhaseIngredient *> before = manager.purhaseIngredients();
+    const bool counted = !before.empty() && !before.front()->count().isNull();
+    if (dish != nullptr && !counted) {
         for (const Ingredient *line : dish->ingredients())
             manager.addIngredientToCard(line->name());
         const char *const counts[]{"2", "500", "1 / 2"};
@@ -120,7 +114,7 @@ IngredientsViewController *openProducts(TourGuide &guide)
 {
     guide.openRow(productsRow);
     guide.settle();
-    return screenOf<IngredientsViewController>(guide);
+    return guide.screenOf<IngredientsViewController>();
 }
 
 template <class Act>
@@ -170,7 +164,6 @@ QList<TourStop> dishTourStops()
 QList<TourStop> cartTourStops()
 {
     return {
-        {QStringLiteral("empty-shopping-list"), [](TourGuide &guide) { (void)openCart(guide); }},
         {QStringLiteral("shopping-list"), [](TourGuide &guide) { (void)openFullCart(guide); }},
         {QStringLiteral("shopping-list-editing"), inCart([](CartViewController &screen) { screen.setEditing(true); })},
         {QStringLiteral("own-product"),

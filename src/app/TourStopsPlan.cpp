@@ -2,7 +2,6 @@
 
 #include "app/RootViewConrollerViewController.h"
 #include "app/TourGuide.h"
-#include "components/Window.h"
 #include "model/DietDay.h"
 #include "model/Dish.h"
 #include "model/DishInDietDay.h"
@@ -26,14 +25,6 @@ namespace
 constexpr int daysSinceStart = 3;
 constexpr int attackDays = 5;
 
-/// The screen of a kind that was opened last.
-template <class Screen>
-Screen *screenOf(TourGuide &guide)
-{
-    const QList<Screen *> found = guide.window().rootViewController()->findChildren<Screen *>();
-    return found.isEmpty() ? nullptr : found.last();
-}
-
 CalculatorViewController *openCalculator(TourGuide &guide)
 {
     UserDefaults &defaults = guide.platform().userDefaults();
@@ -42,7 +33,7 @@ CalculatorViewController *openCalculator(TourGuide &guide)
     defaults.setFloat(172, QStringLiteral("Рост"));
     guide.openRow(RootViewConrollerViewController::calculatorRow);
     guide.settle();
-    return screenOf<CalculatorViewController>(guide);
+    return guide.screenOf<CalculatorViewController>();
 }
 
 void calculatorWithWheel(TourGuide &guide)
@@ -110,7 +101,7 @@ CalendarViewController *openCalendar(TourGuide &guide)
     startDiet(guide);
     guide.openRow(RootViewConrollerViewController::calendarRow);
     guide.settle();
-    return screenOf<CalendarViewController>(guide);
+    return guide.screenOf<CalendarViewController>();
 }
 
 /// A day with measures and without dishes.
@@ -153,7 +144,7 @@ DietDayDetailViewController *openDay(TourGuide &guide, int number)
     screen->touchCell(screen->month()->indexOf(date));
     screen->openDaySettings();
     guide.settle();
-    return screenOf<DietDayDetailViewController>(guide);
+    return guide.screenOf<DietDayDetailViewController>();
 }
 
 void dayOfAttack(TourGuide &guide) { (void)openDay(guide, daysSinceStart + 1); }

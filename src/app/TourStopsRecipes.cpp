@@ -28,14 +28,6 @@ constexpr int recipesRow = 3;
 constexpr int soups = 2;
 constexpr int desserts = 5;
 
-/// The screen of a kind that was opened last.
-template <class Screen>
-Screen *screenOf(TourGuide &guide)
-{
-    const QList<Screen *> found = guide.window().rootViewController()->findChildren<Screen *>();
-    return found.isEmpty() ? nullptr : found.last();
-}
-
 /// The dishes of a category; some have been opened before.
 DishesViewController *openCategory(TourGuide &guide, int category)
 {
@@ -46,10 +38,10 @@ DishesViewController *openCategory(TourGuide &guide, int category)
     }
     guide.openRow(recipesRow);
     guide.settle();
-    if (auto *categories = screenOf<DishesCategoriesViewController>(guide))
+    if (auto *categories = guide.screenOf<DishesCategoriesViewController>())
         categories->selectRow(0, category);
     guide.settle();
-    return screenOf<DishesViewController>(guide);
+    return guide.screenOf<DishesViewController>();
 }
 
 void attackScope(TourGuide &guide)

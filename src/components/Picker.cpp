@@ -26,7 +26,7 @@ void PickerComponent::setSelectedRow(int row)
 
 void PickerComponent::select(int row)
 {
-    if (row < 0 || row >= titles_.size() || row == selectedRow_)
+    if (row < 0 || row >= titles_.size())
         return;
     setSelectedRow(row);
     Q_EMIT selected(row);

@@ -27,13 +27,13 @@ public:
     /// By the program; a row outside becomes the nearest.
     void setSelectedRow(int row);
 
-    /// By the user; a row outside, or the selected one, changes nothing.
+    /// By the user, who may choose the selected row, too; a row outside changes nothing.
     Q_INVOKABLE void select(int row);
 
 Q_SIGNALS:
     void titlesChanged();
     void selectedRowChanged();
-    /// The user turned the wheel.
+    /// The user chose a row.
     void selected(int row);
 
 private:
@@ -54,11 +54,15 @@ public:
     [[nodiscard]] int selectedRow(int component) const;
     /// As many wheels as lists, each turned to its row; a wheel whose titles stay is kept.
     void setContent(const QList<QStringList> &titles, const QList<int> &selectedRows);
+    /// Before it goes out of sight: the user has chosen what a wheel that still turns is at.
+    void settle() { Q_EMIT shouldSettle(); }
 
 Q_SIGNALS:
     void componentsChanged();
-    /// The user turned a wheel; selectedRow() tells where all stand.
+    /// The user chose a row of a wheel; selectedRow() tells where all stand.
     void selected(int row, int component);
+    /// The wheels in sight shall choose what they are at if they are turning.
+    void shouldSettle();
 
 private:
     std::vector<std::unique_ptr<PickerComponent>> components_;

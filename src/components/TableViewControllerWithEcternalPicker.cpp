@@ -6,11 +6,23 @@ namespace kesto
 TableViewControllerWithEcternalPicker::TableViewControllerWithEcternalPicker(QObject *parent)
     : TableViewController(parent)
 {
-    connect(&picker_, &Picker::selected, this, [this](int row, int component) {
+    renewPicker();
+}
+
+void TableViewControllerWithEcternalPicker::renewPicker()
+{
+    if (picker_ != nullptr) {
+        picker_->disconnect(this);
+        picker_.release()->deleteLater(); // its row may still fade
+    }
+    picker_ = std::make_unique<Picker>();
+    connect(picker_.get(), &Picker::selected, this, [this](int row, int component) {
         if (owner_)
             pickerDidSelectRow(row, component);
     });
 }
+
+void TableViewControllerWithEcternalPicker::viewWillDisappear() { picker_->settle(); }
 
 std::optional<IndexPath> TableViewControllerWithEcternalPicker::pickerIndexPath() const
 {
@@ -19,7 +31,7 @@ std::optional<IndexPath> TableViewControllerWithEcternalPicker::pickerIndexPath(
 
 TableRow TableViewControllerWithEcternalPicker::pickerRow() const
 {
-    return {.kind = TableRow::Kind::Picker, .selectable = false, .picker = const_cast<Picker *>(&picker_)};
+    return {.kind = TableRow::Kind::Picker, .selectable = false, .picker = picker_.get()};
 }
 
 void TableViewControllerWithEcternalPicker::displayPickerForIndexPath(const IndexPath &path)
@@ -29,12 +41,15 @@ void TableViewControllerWithEcternalPicker::displayPickerForIndexPath(const Inde
     if (closesOnly || isEditing() || !table()->contains(path))
         return;
     owner_ = path;
+    renewPicker();
     updatePicker();
     table()->insertRow(*pickerIndexPath(), pickerRow());
 }
 
 void TableViewControllerWithEcternalPicker::closePicker()
 {
+    if (owner_)
+        picker_->settle();
     if (!owner_)
         return;
     const IndexPath shown = *pickerIndexPath();
@@ -58,7 +73,7 @@ void TableViewControllerWithEcternalPicker::updatePicker()
         titles.append(rows);
         selectedRows.append(selectedRowInComponent(component));
     }
-    picker_.setContent(titles, selectedRows);
+    picker_->setContent(titles, selectedRows);
 }
 
 IndexPath TableViewControllerWithEcternalPicker::shownPath(const IndexPath &content) const

@@ -21,10 +21,12 @@ public:
     [[nodiscard]] std::optional<IndexPath> pickerOwner() const { return owner_; }
     /// Opens the picker below a row of the content, moves it there, or closes it when it is there.
     void displayPickerForIndexPath(const IndexPath &path);
+    /// What its wheels are at counts for the row that opened it.
     void closePicker();
     /// Asks for the picker's content anew and turns the wheels to it.
     void updatePicker();
-    [[nodiscard]] Picker *picker() { return &picker_; }
+    /// Each opening has one of its own: wheels of an earlier one that still turn are not heard.
+    [[nodiscard]] Picker *picker() { return picker_.get(); }
 
     void reloadData() override;
     void reloadSection(int section) override;
@@ -36,12 +38,13 @@ public:
     void setEditing(bool editing) override;
 
 protected:
+    void viewWillDisappear() override;
     /// Asked for the picker of pickerOwner().
     [[nodiscard]] virtual int numberOfComponentsInPicker() const { return 1; }
     [[nodiscard]] virtual int numberOfRowsInComponent(int component) const = 0;
     [[nodiscard]] virtual QString titleForRow(int row, int component) const = 0;
     [[nodiscard]] virtual int selectedRowInComponent(int component) const = 0;
-    /// The user turned a wheel; picker()->selectedRow() tells where all stand.
+    /// The user chose a row of a wheel; picker()->selectedRow() tells where all stand.
     virtual void pickerDidSelectRow(int row, int component) = 0;
 
     [[nodiscard]] IndexPath shownPath(const IndexPath &content) const override;
@@ -51,8 +54,9 @@ protected:
 private:
     [[nodiscard]] TableRow pickerRow() const;
     void dropLostOwner();
+    void renewPicker();
 
-    Picker picker_;
+    std::unique_ptr<Picker> picker_;
     std::optional<IndexPath> owner_;
 };
 

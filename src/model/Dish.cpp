@@ -89,6 +89,19 @@ Dish *Dish::dishWithRusName(const QString &nameRU, ManagedObjectContext &inManag
     return lastMatch<Dish>(inManagedObjectContext, attribute("nameRU") == nameRU);
 }
 
+QString Dish::displayName() const { return valueForKey(localized(QStringLiteral("nameKey"))).toString(); }
+
+void Dish::sortByDisplayName(std::vector<Dish *> &dishes)
+{
+    if (dishes.empty())
+        return;
+    const int slot = dishes.front()->entity().property(localized(QStringLiteral("nameKey")).toStdString()).slot;
+    std::sort(dishes.begin(), dishes.end(), [slot](const Dish *left, const Dish *right) {
+        const int order = compareValues(left->attributeAt(slot), right->attributeAt(slot));
+        return order != 0 ? order < 0 : left->objectID() < right->objectID();
+    });
+}
+
 std::vector<Ingredient *> Dish::ingredients() const
 {
     // The table of each language names the relationship that holds its lines.

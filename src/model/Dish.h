@@ -29,6 +29,13 @@ public:
     /// The dish of exactly this Russian name, or null.
     static Dish *dishWithRusName(const QString &nameRU, ManagedObjectContext &inManagedObjectContext);
 
+    /// The name in the language of the interface.
+    [[nodiscard]] QString displayName() const;
+    /// Letter for letter; dishes of one name stay in the order of their making.
+    static void sortByDisplayName(std::vector<Dish *> &dishes);
+    /// Whether the dish is allowed in a phase: its phases, as text, contain the number.
+    [[nodiscard]] bool belongsToPhase(int phase) const { return dietPeriod().contains(QString::number(phase)); }
+
     /// The ingredient lines in the language of the interface, in their order.
     [[nodiscard]] std::vector<Ingredient *> ingredients() const;
 
@@ -42,10 +49,7 @@ public:
     void setRecipeRU(const QString &value) { setTextAt(3, value); }
     [[nodiscard]] QString recipeENG() const { return textAt(4); }
     void setRecipeENG(const QString &value) { setTextAt(4, value); }
-    [[nodiscard]] QString dietPeriod() const
-    {
-        return textAt(5);
-    } ///< the digits of the phases that allow the dish; a substring test decides
+    [[nodiscard]] QString dietPeriod() const { return textAt(5); } ///< the digits of the phases that allow the dish
     void setDietPeriod(const QString &value) { setTextAt(5, value); }
     [[nodiscard]] std::optional<bool> recipeNew() const { return flagAt(6); } ///< not opened since it came
     void setRecipeNew(std::optional<bool> value) { setIntegerAt(6, value); }

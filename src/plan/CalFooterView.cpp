@@ -11,32 +11,10 @@ namespace
 {
 
 constexpr std::array fieldTitles{u"Вес", u"Грудь", u"Талия", u"Бедра"};
-constexpr std::array kindTitles{u"Чистый Белок", u"Белок и овощи", u"Пир"};
 constexpr int weightTag = 0;
 constexpr int shownDigits = 6; // all that a person types; a weight from pounds has more
 
-/// How many of the kinds a day of a phase may carry.
-int kindsOfPeriod(int period)
-{
-    switch (period) {
-    case 0:
-        return 1;
-    case 1:
-        return 2;
-    default:
-        return 3;
-    }
-}
-
 } // namespace
-
-CalKindButton::CalKindButton(int tag, const char16_t *key)
-    : tag_(tag)
-    , key_(key)
-{
-}
-
-QString CalKindButton::title() const { return localized(QString::fromUtf16(key_)); }
 
 void CalKindButton::set(bool visible, bool selected)
 {
@@ -75,20 +53,13 @@ const std::array<QString, CalFooterView::fieldCount> &CalFooterView::fieldKeys()
     return keys;
 }
 
-const std::array<QString, CalFooterView::kindCount> &CalFooterView::kindKeys()
-{
-    static const std::array<QString, kindCount> keys{QStringLiteral("chB"), QStringLiteral("bO"),
-                                                     QStringLiteral("feast")};
-    return keys;
-}
-
 CalFooterView::CalFooterView(CalFooterViewDelegate *delegate)
     : delegate_(delegate)
 {
     for (size_t tag = 0; tag < fieldCount; ++tag)
         fields_[tag] = std::make_unique<CalFooterField>(static_cast<int>(tag), fieldTitles[tag]);
-    for (size_t tag = 0; tag < kindCount; ++tag)
-        kindButtons_[tag] = std::make_unique<CalKindButton>(static_cast<int>(tag), kindTitles[tag]);
+    for (size_t tag = 0; tag < kindButtons_.size(); ++tag)
+        kindButtons_[tag] = std::make_unique<CalKindButton>(static_cast<int>(tag));
 }
 
 QList<CalFooterField *> CalFooterView::fields() const
@@ -111,12 +82,12 @@ QString CalFooterView::jornalTitle() const { return localized(QStringLiteral("Д
 
 void CalFooterView::setDietPeriod(int period, const DietDay *forDay, const QDateTime &date)
 {
-    activeButtonsCount_ = kindsOfPeriod(period);
+    activeButtonsCount_ = DayKinds::offeredIn(period);
     enabled_ = period >= 0;
     date_ = date;
-    for (size_t tag = 0; tag < kindCount; ++tag)
+    for (size_t tag = 0; tag < kindButtons_.size(); ++tag)
         kindButtons_[tag]->set(static_cast<int>(tag) < activeButtonsCount_,
-                               forDay != nullptr && forDay->valueForKey(kindKeys()[tag]).toBool());
+                               forDay != nullptr && forDay->valueForKey(DayKinds::keys()[tag]).toBool());
     Q_EMIT dayChanged();
 }
 

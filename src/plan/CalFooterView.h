@@ -1,6 +1,7 @@
 #pragma once
 
 #include "components/IndexPath.h"
+#include "plan/DayKinds.h"
 
 #include <QDateTime>
 #include <QObject>
@@ -24,11 +25,14 @@ class CalKindButton : public QObject
     Q_PROPERTY(bool selected READ isSelected NOTIFY changed)
     Q_PROPERTY(bool visible READ isVisible NOTIFY changed)
 public:
-    CalKindButton(int tag, const char16_t *key);
+    explicit CalKindButton(int tag)
+        : tag_(tag)
+    {
+    }
 
-    /// 0, 1 or 2: the position in CalFooterView::kindKeys().
+    /// 0, 1 or 2: the place among the kinds of days.
     [[nodiscard]] int tag() const { return tag_; }
-    [[nodiscard]] QString title() const;
+    [[nodiscard]] QString title() const { return DayKinds::title(tag_); }
     [[nodiscard]] QString image() const { return selected_ ? QStringLiteral("Checked") : QStringLiteral("Unchecked"); }
     [[nodiscard]] bool isSelected() const { return selected_; }
     [[nodiscard]] bool isVisible() const { return visible_; }
@@ -40,7 +44,6 @@ Q_SIGNALS:
 
 private:
     int tag_;
-    const char16_t *key_;
     bool selected_ = false;
     bool visible_ = false;
 };
@@ -98,11 +101,9 @@ class CalFooterView : public QObject
     Q_PROPERTY(QString jornalTitle READ jornalTitle CONSTANT)
 public:
     static constexpr size_t fieldCount = 4;
-    static constexpr size_t kindCount = 3;
 
-    /// The attributes of a day behind the fields, and behind the kind buttons.
+    /// The attributes of a day behind the fields.
     [[nodiscard]] static const std::array<QString, fieldCount> &fieldKeys();
-    [[nodiscard]] static const std::array<QString, kindCount> &kindKeys();
 
     /// The delegate outlives this or is null.
     explicit CalFooterView(CalFooterViewDelegate *delegate);
@@ -133,7 +134,7 @@ Q_SIGNALS:
 private:
     CalFooterViewDelegate *delegate_;
     std::array<std::unique_ptr<CalFooterField>, fieldCount> fields_;
-    std::array<std::unique_ptr<CalKindButton>, kindCount> kindButtons_;
+    std::array<std::unique_ptr<CalKindButton>, DayKinds::count> kindButtons_;
     int activeButtonsCount_ = 0;
     bool enabled_ = false;
     QDateTime date_;

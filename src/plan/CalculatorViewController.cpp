@@ -2,6 +2,7 @@
 
 #include "components/DayWatch.h"
 #include "plan/BodyCalculation.h"
+#include "plan/DayTexts.h"
 #include "plan/PhaseSpans.h"
 #include "plan/TypedNumber.h"
 #include "platform/Clock.h"
@@ -222,7 +223,7 @@ TableRow CalculatorViewController::inputRow(int row) const
         text = CalculatorWheels::sexes()[value.toInt() == 0 ? 0 : 1];
         break;
     case CalculatorInput::Weight:
-        text = stringWithFormat("%0.1f %@", shownWeight(value.toFloat()), kgString_);
+        text = weightText(value.toFloat(), metrickSystem_, kgString_);
         break;
     case CalculatorInput::Height:
         text = stringWithFormat("%0.1f %@", value.toFloat() / (metrickSystem_ ? 1 : centimetresPerInch), cmString_);
@@ -271,7 +272,7 @@ TableRow CalculatorViewController::resultRow(int row) const
     case WantedWeightRow:
         return fieldRow(title, {ResultsSection, row}, stringWithFormat("%0.0f", shownWeight(wantedWeight_)), kgString_);
     default:
-        text = stringWithFormat("%0.1f %@", shownWeight(difWeight_), kgString_);
+        text = weightText(difWeight_, metrickSystem_, kgString_);
         break;
     }
     return {.kind = TableRow::Kind::Value, .title = title, .detail = text, .selectable = false};

@@ -3,6 +3,7 @@
 #include "components/AlertCenter.h"
 #include "components/Shell.h"
 #include "model/DietDay.h"
+#include "plan/PlanContext.h"
 #include "platform/CloudKeyValueStore.h"
 #include "platform/Log.h"
 #include "platform/Platform.h"
@@ -90,11 +91,11 @@ void CalculatorViewController::startDietOn(const QDateTime &date)
     log(QStringLiteral("start starting diet"));
     closePicker();
     CoreDataManager &manager = CoreDataManager::sharedManager();
-    ManagedObjectContext &context = *manager.managedObjectContext();
+    ManagedObjectContext &context = planContext();
     const QDateTime start = mn_beginningOfDay(date);
     for (DietDay *day : daysBefore(date, context))
         context.deleteObject(*day);
-    (void)context.save(); // what could not be written stays to be saved with the next change
+    savePlan();
 
     manager.setStartDietDay(start);
     UserDefaults &defaults = Platform::current().userDefaults();
@@ -119,7 +120,7 @@ void CalculatorViewController::makeAttackPeriodForDate(const QDateTime &date, in
 {
     if (periodDays < 1)
         return;
-    ManagedObjectContext &context = *CoreDataManager::sharedManager().managedObjectContext();
+    ManagedObjectContext &context = planContext();
     // As dietDatWithDate() of each date, but a long Attack takes one fetch and one save.
     FetchRequest request;
     request.predicate =
@@ -138,7 +139,7 @@ void CalculatorViewController::makeAttackPeriodForDate(const QDateTime &date, in
         }
         day->setChB(true);
     }
-    (void)context.save(); // what could not be written stays to be saved with the next change
+    savePlan();
 }
 
 } // namespace kesto

@@ -3,18 +3,14 @@
 #include "components/DayWatch.h"
 #include "components/NavigationController.h"
 #include "model/DietDay.h"
-#include "model/Dish.h"
-#include "model/DishInDietDay.h"
-#include "plan/CalculatorWheels.h"
+#include "plan/DayDishes.h"
+#include "plan/DayTexts.h"
+#include "plan/PlanContext.h"
 #include "plan/TypedNumber.h"
 #include "platform/Clock.h"
 #include "platform/Platform.h"
-#include "platform/StringFormat.h"
-#include "platform/StringTables.h"
 #include "store/CoreDataManager.h"
 #include "util/MNAdditions.h"
-
-#include <QLocale>
 
 #include <algorithm>
 #include <utility>
@@ -26,8 +22,6 @@ namespace
 {
 
 constexpr int beforeStart = -1; // the phase of a day that has none
-
-ManagedObjectContext &context() { return *CoreDataManager::sharedManager().managedObjectContext(); }
 
 QDateTime today() { return mn_beginningOfDay(Platform::current().clock().now()); }
 
@@ -94,33 +88,23 @@ void CalendarViewController::updateUIForDate(const QDateTime &date, int dietPeri
     // Phases of a negative length leave the days before the start in the last one.
     dietPeriod_ = CalendarMonth::isFromStartOn(date) ? dietPeriod : beforeStart;
     if (dayScreen_ != nullptr) {
-        dayScreen_->setDisbledDay(isDayDisabled());
         if (!isDayDisabled())
             dayScreen_->setDate(date, dietPeriod_);
+        dayScreen_->setDisbledDay(isDayDisabled());
     }
     readDay();
 }
 
 void CalendarViewController::readDay()
 {
-    const DietDay *day = isDayDisabled() ? nullptr : DietDay::dayWithoutCreation(currentDate_, context());
+    const DietDay *day = isDayDisabled() ? nullptr : DietDay::dayWithoutCreation(currentDate_, planContext());
     const CoreDataManager &manager = CoreDataManager::sharedManager();
-    const float weight = day != nullptr ? day->weight().value_or(0) : 0;
-    currentWeight_ = weight > 0
-                         ? stringWithFormat("%0.1f %@", manager.isMetrickSystem() ? weight : weight / kilogramsPerPound,
-                                            manager.kgString())
-                         : QStringLiteral("-");
+    const std::optional<float> weight = day != nullptr ? day->weight() : std::nullopt;
+    currentWeight_ = weightText(weight > 0 ? weight : std::nullopt, manager.isMetrickSystem(), manager.kgString());
     dishes_.clear();
     if (day != nullptr && dayScreen_ == nullptr) {
-        FetchRequest request;
-        request.predicate = attribute("dietDays") == day;
-        request.sortDescriptors = {{"displayOrder"}};
-        request.relationshipKeyPathsForPrefetching = {"dish"};
-        const QString nameKey = localized(QStringLiteral("nameKey"));
-        for (const DishInDietDay *planned : context().fetch<DishInDietDay>(request)) {
-            if (const Dish *dish = planned->dish())
-                dishes_.append(dish->valueForKey(nameKey).toString());
-        }
+        for (const DishInDietDay *planned : dishesOfDay(*day))
+            dishes_.append(nameOfPlanned(*planned));
     }
     footer_.fillFields(day);
     footer_.setDietPeriod(dietPeriod_, day, currentDate_);
@@ -134,11 +118,7 @@ QColor CalendarViewController::periodColor() const
     return CoreDataManager::colorForPeriod(dietPeriod_).value_or(QColor());
 }
 
-QString CalendarViewController::dateText() const
-{
-    const QLocale locale(Platform::current().strings().preferredLanguage());
-    return locale.toString(Platform::current().calendar().dayOf(currentDate_), QStringLiteral("dd MMMM"));
-}
+QString CalendarViewController::dateText() const { return dayTitle(currentDate_); }
 
 void CalendarViewController::nextMonth() { moveMonth(1); }
 
@@ -159,18 +139,18 @@ void CalendarViewController::showToday()
 void CalendarViewController::removeIfEmpty(DietDay &day)
 {
     if (day.isEmpty())
-        context().deleteObject(day);
-    (void)context().save(); // what could not be written stays to be saved with the next change
+        planContext().deleteObject(day);
+    savePlan();
 }
 
 void CalendarViewController::dietDayTypeButtonTouched(const CalKindButton &button, const QDateTime &date,
                                                       const IndexPath &)
 {
-    DietDay &day = DietDay::dietDatWithDate(date, context());
-    for (const QString &key : CalFooterView::kindKeys())
+    DietDay &day = DietDay::dietDatWithDate(date, planContext());
+    for (const QString &key : DayKinds::keys())
         day.setValueForKey(QVariant(), key);
     if (button.isSelected()) // otherwise the day stays without: a stored NO would keep it from being empty
-        day.setValueForKey(true, CalFooterView::kindKeys()[static_cast<size_t>(button.tag())]);
+        day.setValueForKey(true, DayKinds::keys()[static_cast<size_t>(button.tag())]);
     removeIfEmpty(day);
     dietDayDetailViewControllerDidUpdateDay();
     if (dayScreen_ != nullptr)
@@ -181,7 +161,7 @@ void CalendarViewController::textFieldDidEndEditing(int tag, const QString &text
 {
     const QString &key = CalFooterView::fieldKeys()[static_cast<size_t>(tag)];
     const float value = floatValue(text);
-    DietDay &day = DietDay::dietDatWithDate(currentDate_, context());
+    DietDay &day = DietDay::dietDatWithDate(currentDate_, planContext());
     day.setValueForKey(value > 0 ? QVariant(value) : QVariant(), key);
     removeIfEmpty(day);
     dietDayDetailViewControllerDidUpdateDay();

@@ -6,15 +6,15 @@
 #include "model/Dish.h"
 #include "model/DishInDietDay.h"
 #include "model/DishesCategory.h"
-#include "plan/CalFooterView.h"
 #include "plan/CalculatorViewController.h"
+#include "plan/DayDishes.h"
+#include "plan/DayKinds.h"
+#include "plan/DayTexts.h"
+#include "plan/PlanContext.h"
 #include "platform/Platform.h"
-#include "platform/StringFormat.h"
 #include "platform/StringTables.h"
 #include "platform/UserDefaults.h"
 #include "store/CoreDataManager.h"
-
-#include <QLocale>
 
 #include <algorithm>
 #include <array>
@@ -25,25 +25,19 @@ namespace kesto
 namespace
 {
 
-constexpr std::array kindTitles{u"Чистый Белок", u"Белок и овощи", u"Пир"};
-constexpr std::array kindImages{u"protein.png", u"protein_vegetables.png", u"feast.png"};
 constexpr std::array addTitles{u"Добавить блюдо", u"Добавить блюдо из избраного", u"Добавить быстрое блюдо"};
 constexpr std::array addImages{u"add_dish.png", u"favorite_dish.png", u"my_dish.png", u"autofilling_day_icon.png"};
 constexpr std::array fillTitles{u"Автонаполнение Атаки", u"Автонаполнение Круиза"}; // by phase
 
 constexpr int attack = 0;
 constexpr int cruise = 1;
+constexpr int kindsBeforeStart = 2;
 
 template <size_t N>
 QString text(const std::array<const char16_t *, N> &texts, int index)
 {
     return QString::fromUtf16(texts.at(static_cast<size_t>(index)));
 }
-
-ManagedObjectContext &context() { return *CoreDataManager::sharedManager().managedObjectContext(); }
-
-// What could not be written stays to be saved with the next change.
-void save() { (void)context().save(); }
 
 } // namespace
 
@@ -75,34 +69,39 @@ void DietDayDetailViewController::viewWillAppear() { refresh(); }
 
 void DietDayDetailViewController::viewWillDisappear()
 {
+    TableViewControllerWithEcternalPicker::viewWillDisappear();
     setEditing(false);
-    save();
+    savePlan();
 }
 
 void DietDayDetailViewController::setDate(const QDateTime &date, int period)
 {
+    if (date != date_ || period != dietPeriod_)
+        closePicker(); // what it turns to yet is the weight of the day before
     if (date != date_)
-        setEditing(false); // closes the wheels, too
-    if (period != dietPeriod_)
-        closePicker();
+        setEditing(false);
     date_ = date;
     dietPeriod_ = period;
     day_ = nullptr;
-    refresh();
+    if (!disbledDay_)
+        refresh();
 }
 
 void DietDayDetailViewController::setDisbledDay(bool disabled)
 {
-    if (disabled)
-        setEditing(false);
+    if (disabled == disbledDay_)
+        return;
+    closePicker();
+    setEditing(false);
     disbledDay_ = disabled;
+    day_ = nullptr;
     refresh();
 }
 
 DietDay *DietDayDetailViewController::day()
 {
     if ((day_ == nullptr || day_->isDeleted()) && date_.isValid() && !disbledDay_)
-        day_ = &DietDay::dietDatWithDate(date_, context());
+        day_ = &DietDay::dietDatWithDate(date_, planContext());
     return day_;
 }
 
@@ -111,10 +110,7 @@ void DietDayDetailViewController::refresh()
     const CoreDataManager &manager = CoreDataManager::sharedManager();
     kgString_ = manager.kgString();
     metrickSystem_ = manager.isMetrickSystem();
-    const QLocale locale(Platform::current().strings().preferredLanguage());
-    setTitle(disbledDay_ || !date_.isValid()
-                 ? QString()
-                 : locale.toString(Platform::current().calendar().dayOf(date_), QStringLiteral("dd MMMM")));
+    setTitle(disbledDay_ || !date_.isValid() ? QString() : dayTitle(date_));
     createContent();
     reloadData();
 }
@@ -122,27 +118,14 @@ void DietDayDetailViewController::refresh()
 void DietDayDetailViewController::createContent()
 {
     content_.clear();
-    if (const DietDay *shown = day()) {
-        FetchRequest request;
-        request.predicate = attribute("dietDays") == shown;
-        request.sortDescriptors = {{"displayOrder"}};
-        request.relationshipKeyPathsForPrefetching = {"dish"};
-        content_ = context().fetch<DishInDietDay>(request);
-    }
+    if (const DietDay *shown = day())
+        content_ = dishesOfDay(*shown);
     Q_EMIT contentChanged();
 }
 
 int DietDayDetailViewController::kindCount() const
 {
-    switch (dietPeriod_) {
-    case attack:
-        return 1;
-    case -1:
-    case cruise:
-        return 2;
-    default:
-        return static_cast<int>(kindTitles.size());
-    }
+    return dietPeriod_ < 0 ? kindsBeforeStart : DayKinds::offeredIn(dietPeriod_);
 }
 
 int DietDayDetailViewController::numberOfSections() const
@@ -184,35 +167,25 @@ TableRow DietDayDetailViewController::cellForRow(const IndexPath &path) const
 
 TableRow DietDayDetailViewController::dayRow(int row) const
 {
-    if (row == weightRow) {
-        const std::optional<float> weight = day_->weight();
+    if (row == weightRow)
         return {.kind = TableRow::Kind::Value,
                 .title = localized(QStringLiteral("Вес")),
-                .detail = weight ? stringWithFormat("%0.1f %@", metrickSystem_ ? *weight : *weight / kilogramsPerPound,
-                                                    kgString_)
-                                 : QStringLiteral("-"),
+                .detail = weightText(day_->weight(), metrickSystem_, kgString_),
                 .image = QStringLiteral("weight.png")};
-    }
     const int kind = row - 1;
-    const bool selected = day_->valueForKey(CalFooterView::kindKeys().at(static_cast<size_t>(kind))).toBool();
-    return {.title = localized(text(kindTitles, kind)),
-            .image = text(kindImages, kind),
+    const bool selected = day_->valueForKey(DayKinds::keys().at(static_cast<size_t>(kind))).toBool();
+    return {.title = DayKinds::title(kind),
+            .image = DayKinds::image(kind),
             .accessory = selected ? TableRow::Accessory::Checkmark : TableRow::Accessory::None,
             .selected = selected};
 }
 
 TableRow DietDayDetailViewController::dishRow(const DishInDietDay &planned) const
 {
-    const Dish *dish = planned.dish();
-    QString name;
-    if (dish != nullptr) {
-        name = dish->valueForKey(localized(QStringLiteral("nameKey"))).toString();
-        for (const QString &other : {dish->nameRU(), dish->nameENG()})
-            name = name.isEmpty() ? other : name;
-    }
-    return {.title = name.isEmpty() ? QStringLiteral("-") : name,
-            .accessory = dish != nullptr ? TableRow::Accessory::Disclosure : TableRow::Accessory::None,
-            .selectable = dish != nullptr,
+    const bool opens = planned.dish() != nullptr;
+    return {.title = nameOfPlanned(planned),
+            .accessory = opens ? TableRow::Accessory::Disclosure : TableRow::Accessory::None,
+            .selectable = opens,
             .canDelete = true,
             .canMove = true};
 }
@@ -285,7 +258,7 @@ float DietDayDetailViewController::shownOnWheels() const
     request.predicate = attribute("date") < date_ && attribute("weight") > 0.0;
     request.sortDescriptors = {{"date", false}};
     request.fetchLimit = 1;
-    const std::vector<DietDay *> weighed = context().fetch<DietDay>(request);
+    const std::vector<DietDay *> weighed = planContext().fetch<DietDay>(request);
     if (!weighed.empty())
         return weighed.front()->weight().value_or(0);
     const int weightInput = static_cast<int>(CalculatorInput::Weight);
@@ -305,20 +278,20 @@ void DietDayDetailViewController::pickerDidSelectRow(int, int)
     for (int component = 0; component < wheels().numberOfComponents(); ++component)
         rows.append(picker()->selectedRow(component));
     day()->setWeight(wheels().value(rows));
-    save();
+    savePlan();
     reloadRow({DaySection, weightRow});
     Q_EMIT weightChanged();
 }
 
 void DietDayDetailViewController::toggleKind(int kind)
 {
-    const auto &keys = CalFooterView::kindKeys();
+    const auto &keys = DayKinds::keys();
     DietDay &shown = *day();
     const QString &touched = keys.at(static_cast<size_t>(kind));
     const bool selected = !shown.valueForKey(touched).toBool();
     for (const QString &key : keys)
         shown.setValueForKey(key == touched && selected, key);
-    save();
+    savePlan();
     reloadSection(DaySection);
     if (delegate_ != nullptr && Window::sharedWindow().isTablet())
         delegate_->dietDayDetailViewControllerDidUpdateDay();
@@ -329,11 +302,12 @@ void DietDayDetailViewController::commitDelete(const IndexPath &path)
     DishInDietDay &planned = *content_[static_cast<size_t>(path.row)];
     Dish *dish = planned.dish();
     day()->removeDishes(planned);
-    context().deleteObject(planned);
+    planContext().deleteObject(planned);
     if (dish != nullptr && dish->dishCategory() == nullptr)
-        context().deleteObject(*dish);
-    save();
+        CoreDataManager::sharedManager().deleteDish(*dish);
     createContent(); // a quick dish takes every other entry of it along
+    renumber(content_);
+    savePlan();
     reloadSection(DishesSection);
 }
 
@@ -342,9 +316,8 @@ void DietDayDetailViewController::moveRow(const IndexPath &from, const IndexPath
     const auto first = content_.begin() + std::min(from.row, to.row);
     const auto last = content_.begin() + std::max(from.row, to.row) + 1;
     std::rotate(first, from.row < to.row ? first + 1 : last - 1, last);
-    for (size_t i = 0; i < content_.size(); ++i)
-        content_[i]->setDisplayOrder(static_cast<int>(i));
-    save();
+    renumber(content_);
+    savePlan();
 }
 
 } // namespace kesto

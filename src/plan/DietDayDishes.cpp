@@ -7,7 +7,9 @@
 #include "model/DietDay.h"
 #include "model/Dish.h"
 #include "model/DishInDietDay.h"
+#include "plan/DayDishes.h"
 #include "plan/DietDayDetailViewController.h"
+#include "plan/PlanContext.h"
 #include "platform/Log.h"
 #include "platform/StringTables.h"
 #include "recipes/DishDetailViewController.h"
@@ -35,13 +37,11 @@ QSizeF choiceSize()
 
 enum QuickDishButton { CancelButton, AddButton, AddToCartButton };
 
-ManagedObjectContext &context() { return *CoreDataManager::sharedManager().managedObjectContext(); }
-
 } // namespace
 
 DishInDietDay *DietDayDetailViewController::plan(Dish &dish)
 {
-    auto &planned = context().insert<DishInDietDay>();
+    auto &planned = planContext().insert<DishInDietDay>();
     planned.setDisplayOrder(static_cast<int>(content_.size()));
     planned.setDish(&dish);
     day()->addDishes(planned);
@@ -51,12 +51,13 @@ DishInDietDay *DietDayDetailViewController::plan(Dish &dish)
 void DietDayDetailViewController::addDish(Dish &dish)
 {
     if (day() != nullptr)
-        addDishToDietDay(dish, context());
+        addDishToDietDay(dish, planContext());
 }
 
 void DietDayDetailViewController::addDishToDietDay(Dish &dish, ManagedObjectContext &toManagedObjectContext)
 {
-    createContent(); // the list that the dish was chosen in may have deleted others
+    createContent();    // the list that the dish was chosen in may have deleted others
+    renumber(content_); // and left gaps
     plan(dish);
     (void)toManagedObjectContext.save(); // what could not be written stays to be saved with the next change
     createContent();
@@ -68,6 +69,7 @@ void DietDayDetailViewController::autoFillDay()
     log(QStringLiteral("start autofilin"));
     if (day() == nullptr || content_.size() >= filledDay)
         return;
+    renumber(content_); // a dish that was deleted elsewhere left a gap
     for (Dish *dish : CoreDataManager::sharedManager().autoFilledDishesForPeriod(dietPeriod_)) {
         content_.push_back(plan(*dish));
         insertRow({DishesSection, static_cast<int>(content_.size()) - 1});
@@ -132,12 +134,12 @@ void DietDayDetailViewController::askForQuickDish()
 
 void DietDayDetailViewController::quickDishNamed(const AlertAnswer &answer)
 {
-    if (answer.buttonIndex == CancelButton || answer.text.trimmed().isEmpty() || day() == nullptr)
+    if (answer.buttonIndex == CancelButton || answer.text.isEmpty() || day() == nullptr)
         return;
-    auto &dish = context().insert<Dish>();
+    auto &dish = planContext().insert<Dish>();
     dish.setNameENG(answer.text);
     dish.setNameRU(answer.text);
-    addDishToDietDay(dish, context());
+    addDishToDietDay(dish, planContext());
     if (answer.buttonIndex == AddToCartButton)
         CoreDataManager::sharedManager().addIngredientToCard(dish.nameENG());
 }

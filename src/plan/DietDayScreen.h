@@ -18,7 +18,7 @@ class DietDayScreen
 {
 public:
     virtual ~DietDayScreen() = default;
-    /// Loads another day, given by its beginning, of a phase.
+    /// Loads another day, given by its beginning, of a phase; a disabled screen does so when it is so no more.
     virtual void setDate(const QDateTime &date, int period) = 0;
     /// Whether the day lies before the start of the diet: nothing of it is shown then.
     virtual void setDisbledDay(bool disabled) = 0;

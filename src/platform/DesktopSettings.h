@@ -23,10 +23,8 @@ public:
 Q_SIGNALS:
     void animationsChanged(bool animations);
 
-private Q_SLOTS:
-    void settingChanged(const QString &group, const QString &key, const QDBusVariant &value);
-
 private:
+    Q_SLOT void settingChanged(const QString &group, const QString &key, const QDBusVariant &value);
     void setAnimations(const QVariant &value);
 
     QDBusConnection bus_;

@@ -18,6 +18,9 @@ constexpr qreal emptyHeaderHeight = 20;
 
 CoreDataManager &manager() { return CoreDataManager::sharedManager(); }
 
+/// Names a line to its view, which knows no number as large as a key may be.
+QString nameOf(const PurhaseIngredient &line) { return QString::number(line.objectID()); }
+
 void save(const PurhaseIngredient &line)
 {
     (void)line.managedObjectContext().save(); // what can't be saved stays to be saved with the next change
@@ -91,7 +94,7 @@ TableRow CartViewController::cellForRow(const IndexPath &path) const
             .text = line->count(),
             .placeholder = QStringLiteral("#"),
             .cell = QStringLiteral("PurhaseIngredientCell"),
-            .value = line->objectID()};
+            .value = nameOf(*line)};
 }
 
 qreal CartViewController::heightForHeaderInSection(int section) const
@@ -161,10 +164,10 @@ void CartViewController::textFieldDidEndEditing(const IndexPath &path, int, cons
     reloadRow(path);
 }
 
-void CartViewController::endEditingCount(qlonglong line, const QString &text)
+void CartViewController::endEditingCount(const QString &line, const QString &text)
 {
     const auto found = std::find_if(content_.begin(), content_.end(),
-                                    [&](const PurhaseIngredient *each) { return each->objectID() == line; });
+                                    [&](const PurhaseIngredient *each) { return nameOf(*each) == line; });
     if (found != content_.end())
         textFieldDidEndEditing({LinesSection, static_cast<int>(found - content_.begin())}, 0, text);
 }

@@ -44,7 +44,7 @@ public:
     void updateRightBBI();
 
     /// The user has left the quantity of a line, which its row names by its value: the line may have moved since.
-    Q_INVOKABLE void endEditingCount(qlonglong line, const QString &text);
+    Q_INVOKABLE void endEditingCount(const QString &line, const QString &text);
 
 Q_SIGNALS:
     void contentChanged();

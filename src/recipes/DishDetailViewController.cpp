@@ -5,12 +5,13 @@
 #include "components/PopoverController.h"
 #include "components/Window.h"
 #include "model/Dish.h"
-#include "model/DishInDietDay.h"
 #include "model/DishesCategory.h"
 #include "model/Ingredient.h"
 #include "platform/StringTables.h"
+#include "recipes/DishChoice.h"
 #include "recipes/ImageViewController.h"
 #include "store/CoreDataManager.h"
+#include "util/ImageFiles.h"
 
 #include <QPointer>
 #include <QVariantMap>
@@ -52,17 +53,6 @@ QVariantList badgesOf(const QString &dietPeriod)
     return badges;
 }
 
-/// Lines of the shopping list outlive the dish that they came from: what they name becomes a product of its own.
-void keepPurchases(const std::vector<Ingredient *> &lines)
-{
-    for (Ingredient *line : lines) {
-        if (line->purchaseIngredient().empty())
-            continue;
-        line->setDishRU(nullptr);
-        line->setDishENG(nullptr);
-    }
-}
-
 } // namespace
 
 DishDetailViewController::DishDetailViewController() { setTitle(localized(QStringLiteral("Рецепт"))); }
@@ -80,12 +70,12 @@ bool DishDetailViewController::hasDish() const { return dish_ != nullptr && !dis
 
 void DishDetailViewController::buildUI()
 {
-    picture_ = ImageViewController::photoOf(dish_->dishID());
+    picture_ = photoNamed(dish_->dishID());
     const DishesCategory *category = dish_->dishCategory();
     categoryPicture_ = category != nullptr && category->displayOrder().value_or(categories) < categories
                            ? QStringLiteral("%1_recipes_icon").arg(*category->displayOrder())
                            : QString();
-    name_ = dish_->valueForKey(localized(QStringLiteral("nameKey"))).toString();
+    name_ = dish_->displayName();
     badges_ = badgesOf(dish_->dietPeriod());
     ingredients_.clear();
     for (const Ingredient *line : dish_->ingredients())
@@ -140,8 +130,7 @@ void DishDetailViewController::buttonTouched()
     if (delegate_ == nullptr || !hasDish())
         return;
     const QPointer<DishDetailViewController> alive(this); // the delegate may close the screens
-    delegate_->addDish(*dish_);
-    if (alive)
+    if (handOver(*dish_, *delegate_) && alive)
         setAlreadySelectedInDietDay(true);
 }
 
@@ -198,15 +187,7 @@ void DishDetailViewController::deleteDishIntro()
 void DishDetailViewController::deleteDish()
 {
     if (hasDish()) {
-        ManagedObjectContext &context = dish_->managedObjectContext();
-        if (DishesCategory *category = dish_->dishCategory(); category != nullptr)
-            category->removeDishes(*dish_);
-        for (DishInDietDay *planned : dish_->dishInDietDays())
-            context.deleteObject(*planned);
-        keepPurchases(dish_->ingredientsRU());
-        keepPurchases(dish_->ingredientsENG());
-        context.deleteObject(*dish_);
-        (void)context.save(); // what can't be saved stays to be saved with the next change
+        CoreDataManager::sharedManager().deleteDish(*dish_);
         if (deleteDishDelegate_ != nullptr)
             deleteDishDelegate_->dishDeleted();
     }

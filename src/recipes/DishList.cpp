@@ -3,28 +3,11 @@
 #include "model/DietDay.h"
 #include "model/Dish.h"
 #include "model/DishInDietDay.h"
-#include "platform/StringTables.h"
-#include "platform/objectgraph/ManagedObjectContext.h"
 
 #include <algorithm>
 
 namespace kesto
 {
-
-QString displayName(const Dish &dish) { return dish.valueForKey(localized(QStringLiteral("nameKey"))).toString(); }
-
-void sortByDisplayName(std::vector<Dish *> &dishes)
-{
-    if (dishes.empty())
-        return;
-    const int slot = dishes.front()->entity().property(localized(QStringLiteral("nameKey")).toStdString()).slot;
-    std::sort(dishes.begin(), dishes.end(), [slot](const Dish *left, const Dish *right) {
-        const int order = compareValues(left->attributeAt(slot), right->attributeAt(slot));
-        return order != 0 ? order < 0 : left->objectID() < right->objectID();
-    });
-}
-
-bool belongsToPhase(const Dish &dish, int phase) { return dish.dietPeriod().contains(QString::number(phase)); }
 
 QSet<const Dish *> dishesPlannedFor(const DietDay *day)
 {
@@ -51,7 +34,7 @@ QVariantList itemsOfPhase(const QVariantList &items, int phase)
 {
     QVariantList found;
     std::copy_if(items.begin(), items.end(), std::back_inserter(found),
-                 [phase](const QVariant &item) { return belongsToPhase(*dishOf(item), phase); });
+                 [phase](const QVariant &item) { return dishOf(item)->belongsToPhase(phase); });
     return found;
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QSet>
-#include <QString>
 #include <QVariantList>
 
 #include <vector>
@@ -13,13 +12,6 @@ class DietDay;
 class Dish;
 
 // What every list of dishes goes by.
-
-/// The name of a dish in the language of the interface.
-[[nodiscard]] QString displayName(const Dish &dish);
-/// By display name, letter for letter; dishes of one name stay in the order of their making.
-void sortByDisplayName(std::vector<Dish *> &dishes);
-/// Whether a dish belongs to a phase: its phases, as text, contain the number.
-[[nodiscard]] bool belongsToPhase(const Dish &dish, int phase);
 
 /// The dishes that are planned for a day; none for one that is null or gone.
 [[nodiscard]] QSet<const Dish *> dishesPlannedFor(const DietDay *day);

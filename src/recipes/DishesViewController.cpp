@@ -14,8 +14,6 @@
 #include "recipes/PeriodSelectorViewController.h"
 #include "store/CoreDataManager.h"
 
-#include <QPointer>
-
 namespace kesto
 {
 
@@ -43,8 +41,9 @@ DishesViewController::DishesViewController(int category, DietDay *day, int perio
     , category_(CoreDataManager::sharedManager().dishesCategoryForIndex(category))
     , day_(day)
     , period_(period)
-    , addDishMode_(addDishMode)
 {
+    choice_.setAddMode(addDishMode);
+    connect(&choice_, &DishChoice::answered, this, [this] { refresh(); });
     setPeriodsScopes(true);
     DishesViewController::reloadData();
 }
@@ -79,8 +78,8 @@ void DishesViewController::reloadData()
     std::vector<Dish *> dishes;
     if (category_ != nullptr)
         dishes = category_->dishes();
-    sortByDisplayName(dishes);
-    setContent(addDishMode_ ? itemsOfPhase(itemsOf(dishes), period_) : itemsOf(dishes));
+    Dish::sortByDisplayName(dishes);
+    setContent(addDishMode() ? itemsOfPhase(itemsOf(dishes), period_) : itemsOf(dishes));
     setCurrentItems(currentPeriod() != 0 ? itemsOfPhase(content(), currentPeriod()) : content());
     DishesViewController::refresh();
 }
@@ -93,8 +92,10 @@ QVariantList DishesViewController::filtedItemsForPeriod(int period) const
 
 void DishesViewController::dishAdded(Dish &dish)
 {
-    if (category_ != nullptr)
+    if (category_ != nullptr) {
         category_->addDishes(dish);
+        (void)dish.managedObjectContext().save(); // what can't be saved stays to be saved with the next change
+    }
     reloadData();
 }
 
@@ -125,26 +126,26 @@ QSet<const Dish *> DishesViewController::dishesOfJournal() const
 
 void DishesViewController::refresh()
 {
-    const QSet<const Dish *> included = addDishMode_ ? dishesOfJournal() : QSet<const Dish *>();
+    const QSet<const Dish *> included = addDishMode() ? dishesOfJournal() : QSet<const Dish *>();
     QList<DishTile> tiles;
     tiles.reserve(items().size());
     for (const QVariant &item : items()) {
         const Dish &dish = *dishOf(item);
-        tiles.append(tileOf(dish, included.contains(&dish) || chosen_.contains(&dish)));
+        tiles.append(tileOf(dish, included.contains(&dish) || choice_.hasTaken(dish)));
     }
     tiles_.setTiles(tiles);
 }
 
 DishTile DishesViewController::tileOf(const Dish &dish, bool checked) const
 {
-    DishTile tile{.dish = &dish, .title = displayName(dish), .checkable = addDishMode_, .checked = checked};
+    DishTile tile{.dish = &dish, .title = dish.displayName(), .checkable = addDishMode(), .checked = checked};
     if (!dish.dishID().isNull())
         tile.picture = dish.dishID() + QStringLiteral(".jpg");
     if (dish.recipeNew().value_or(false))
         tile.mark = localized(QStringLiteral("New"));
     QStringList phases;
     for (int phase = 0; phase < phaseCount; ++phase) {
-        if (!belongsToPhase(dish, phase))
+        if (!dish.belongsToPhase(phase))
             continue;
         tile.markers |= 1 << phase;
         phases.append(CoreDataManager::periodNameForDietPeriod(phase));
@@ -174,14 +175,7 @@ void DishesViewController::selectItem(int row)
     Dish *dish = dishAt(row);
     if (dish == nullptr)
         return;
-    auto screen = std::make_unique<DishDetailViewController>();
-    screen->setDish(dish);
-    screen->setDeleteDishDelegate(this);
-    if (addDishMode_) {
-        screen->setAlreadySelectedInDietDay(dayAlreadyIncludeDish(*dish));
-        screen->setDelegate(delegate_);
-        screen->setAddDishMode(true);
-    }
+    auto screen = choice_.screenOf(*dish, addDishMode() && dayAlreadyIncludeDish(*dish), *this);
     if (dish->recipeNew()) {
         dish->setRecipeNew({});
         (void)dish->managedObjectContext().save(); // nothing is lost: it goes along with the next save
@@ -195,16 +189,8 @@ void DishesViewController::selectItem(int row)
 
 void DishesViewController::selectDishButtonTouchedAtIndexPath(int row)
 {
-    Dish *dish = dishAt(row);
-    if (!addDishMode_ || dish == nullptr || delegate_ == nullptr)
-        return;
-    const QPointer<DishesViewController> alive(this); // the delegate may close the screens
-    delegate_->addDish(*dish);
-    if (!alive)
-        return;
-    if (dishesPlannedFor(day_).contains(dish))
-        chosen_.insert(dish);
-    refresh();
+    if (Dish *dish = dishAt(row))
+        choice_.addDish(*dish);
 }
 
 std::unique_ptr<ViewController> DishesViewController::makePeriodSelector(int currentPeriod)

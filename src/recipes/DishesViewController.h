@@ -1,7 +1,7 @@
 #pragma once
 
 #include "components/SearchBarDietTableViewController.h"
-#include "recipes/DishDelegates.h"
+#include "recipes/DishChoice.h"
 #include "recipes/DishTiles.h"
 
 #include <QSet>
@@ -29,9 +29,9 @@ public:
 
     [[nodiscard]] DishesCategory *category() const { return category_; }
     [[nodiscard]] int categoryIndex() const { return categoryIndex_; }
-    [[nodiscard]] bool addDishMode() const { return addDishMode_; }
+    [[nodiscard]] bool addDishMode() const { return choice_.isAddMode(); }
     /// Outlives this.
-    void setDelegate(AddDishDelegate *delegate) { delegate_ = delegate; }
+    void setDelegate(AddDishDelegate *delegate) { choice_.setDelegate(delegate); }
     [[nodiscard]] DishTiles *tiles() { return &tiles_; }
     /// Of the markers on a tile, one a phase.
     [[nodiscard]] QVariantList markerColors() const;
@@ -79,9 +79,7 @@ private:
     DishesCategory *category_;
     DietDay *day_;
     int period_;
-    bool addDishMode_;
-    AddDishDelegate *delegate_ = nullptr;
-    QSet<const Dish *> chosen_; ///< planned from here: the user sees that the touch was heard
+    DishChoice choice_;
     DishTiles tiles_;
 };
 

@@ -2,15 +2,12 @@
 
 #include "components/NavigationController.h"
 #include "model/Dish.h"
-#include "platform/Platform.h"
 #include "platform/StringTables.h"
 #include "recipes/DishDetailViewController.h"
 #include "recipes/DishList.h"
 #include "recipes/FavoritesManager.h"
+#include "util/ImageFiles.h"
 #include "util/SKHelpManager.h"
-
-#include <QFileInfo>
-#include <QPointer>
 
 namespace kesto
 {
@@ -23,23 +20,17 @@ QVariantList dishesIn(const QVariant &section)
     return section.toMap().value(QStringLiteral("section content")).toList();
 }
 
-/// The small photo of a dish; null when there is none.
-QString iconOf(const Dish &dish)
-{
-    if (dish.dishID().isNull())
-        return {};
-    const QString name = dish.dishID() + QStringLiteral("_icon") + QStringLiteral(".jpg");
-    const bool exists = QFileInfo(Platform::current().resourcesFolder() + QStringLiteral("/images/") + name).isFile();
-    return exists ? name : QString();
-}
-
 } // namespace
 
-FavoritesViewController::FavoritesViewController() { setTitle(localized(QStringLiteral("Избранные рецепты"))); }
+FavoritesViewController::FavoritesViewController()
+{
+    setTitle(localized(QStringLiteral("Избранные рецепты")));
+    connect(&choice_, &DishChoice::answered, this, [this] { reloadData(); });
+}
 
 void FavoritesViewController::viewDidLoad()
 {
-    if (isAddMode_)
+    if (choice_.isAddMode())
         setLeftBarButtonItem(BarButtonItem::withImage(QStringLiteral("Plus.png"), [this] { close(); }));
 }
 
@@ -54,11 +45,11 @@ QString FavoritesViewController::emptyText() const
 void FavoritesViewController::reloadData()
 {
     std::vector<Dish *> dishes = FavoritesManager::sharedManager().favoritiesDishes();
-    sortByDisplayName(dishes);
-    const QVariantList items = isAddMode_ ? itemsOfPhase(itemsOf(dishes), period_) : itemsOf(dishes);
+    Dish::sortByDisplayName(dishes);
+    const QVariantList items = choice_.isAddMode() ? itemsOfPhase(itemsOf(dishes), period_) : itemsOf(dishes);
     content_ = SKHelpManager::groupedItemsByFirstLetterInNameFromItems(items, localized(QStringLiteral("nameKey")))
                    .value_or(QVariantList());
-    included_ = isAddMode_ ? dishesPlannedFor(day_) : QSet<const Dish *>();
+    included_ = choice_.isAddMode() ? dishesPlannedFor(day_) : QSet<const Dish *>();
     TableViewController::reloadData();
     Q_EMIT contentChanged();
 }
@@ -82,15 +73,15 @@ TableRow FavoritesViewController::cellForRow(const IndexPath &path) const
 {
     const Dish &dish = *dishOf(dishesIn(content_[path.section])[path.row]);
     TableRow row{.kind = TableRow::Kind::Custom,
-                 .title = displayName(dish),
-                 .image = iconOf(dish),
+                 .title = dish.displayName(),
+                 .image = dish.dishID().isNull() ? QString() : photoNamed(dish.dishID() + QStringLiteral("_icon")),
                  .cell = QStringLiteral("DishCell")};
     if (dish.recipeNew())
         row.value = localized(QStringLiteral("New"));
-    if (isAddMode_) {
+    if (choice_.isAddMode()) {
         row.cell = QStringLiteral("DishSelectingCell");
         row.accessory = TableRow::Accessory::CheckButton;
-        row.checked = included_.contains(&dish);
+        row.checked = included_.contains(&dish) || choice_.hasTaken(dish);
     }
     return row;
 }
@@ -107,26 +98,14 @@ void FavoritesViewController::didSelectRow(const IndexPath &path)
     NavigationController *stack = navigationController();
     if (dish == nullptr || stack == nullptr)
         return;
-    auto screen = std::make_unique<DishDetailViewController>();
-    screen->setDish(dish);
-    screen->setDeleteDishDelegate(this);
-    if (isAddMode_) {
-        screen->setAlreadySelectedInDietDay(dayAlreadyIncludeDish(*dish));
-        screen->setDelegate(delegate_);
-        screen->setAddDishMode(true);
-    }
-    stack->pushViewController(std::move(screen), true);
+    const bool inDay = choice_.isAddMode() && dayAlreadyIncludeDish(*dish);
+    stack->pushViewController(choice_.screenOf(*dish, inDay, *this), true);
 }
 
 void FavoritesViewController::selectDishButtonTouchedAtIndexPath(const IndexPath &path)
 {
-    Dish *dish = dishAt(path);
-    if (!isAddMode_ || dish == nullptr || delegate_ == nullptr)
-        return;
-    const QPointer<FavoritesViewController> alive(this); // the delegate may close the screens
-    delegate_->addDish(*dish);
-    if (alive)
-        reloadData();
+    if (Dish *dish = dishAt(path))
+        choice_.addDish(*dish);
 }
 
 } // namespace kesto

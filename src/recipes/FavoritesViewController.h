@@ -1,7 +1,7 @@
 #pragma once
 
 #include "components/TableViewController.h"
-#include "recipes/DishDelegates.h"
+#include "recipes/DishChoice.h"
 
 #include <QSet>
 #include <QVariantList>
@@ -23,9 +23,9 @@ public:
     /// The phase of the day, 0 to 3.
     void setPeriod(int period) { period_ = period; }
     /// Before the view is loaded.
-    void setIsAddMode(bool isAddMode) { isAddMode_ = isAddMode; }
+    void setIsAddMode(bool isAddMode) { choice_.setAddMode(isAddMode); }
     /// Outlives this.
-    void setDelegate(AddDishDelegate *delegate) { delegate_ = delegate; }
+    void setDelegate(AddDishDelegate *delegate) { choice_.setDelegate(delegate); }
 
     /// The sections: each a dictionary of "section name", a letter, and "section content", its dishes.
     [[nodiscard]] const QVariantList &content() const { return content_; }
@@ -58,8 +58,7 @@ private:
 
     DietDay *day_ = nullptr;
     int period_ = 0;
-    bool isAddMode_ = false;
-    AddDishDelegate *delegate_ = nullptr;
+    DishChoice choice_;
     QVariantList content_;
     QSet<const Dish *> included_; // while the rows are made
 };

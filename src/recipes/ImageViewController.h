@@ -16,9 +16,6 @@ public:
 
     [[nodiscard]] QString picture() const { return picture_; }
 
-    /// The file name of a photo; null where the program has none of that name.
-    [[nodiscard]] static QString photoOf(const QString &imageName);
-
 private:
     QString picture_;
 };

@@ -74,6 +74,9 @@ public:
     [[nodiscard]] QVariantList dishesForDietPeriod(int period);
     /// The category of a position, or null.
     [[nodiscard]] DishesCategory *dishesCategoryForIndex(int index);
+    /// Deletes a dish and its placements in days and journals. Products of its lines that stand in the shopping list
+    /// stay as products of their own.
+    void deleteDish(Dish &dish);
     /// For maintainers: writes every dish in the layout of the catalogue to "recipes.plist" in the documents folder.
     /// False, and a log line, when that failed.
     bool saveRecipesToPlist();

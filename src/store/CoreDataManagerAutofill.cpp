@@ -51,13 +51,12 @@ std::vector<Dish *> CoreDataManager::autoFilledDishesForPeriod(int period)
     request.fetchBatchSize = batchSize;
     request.relationshipKeyPathsForPrefetching = {"dishes"};
     const std::vector<DishesCategory *> categories = managedObjectContext()->fetch<DishesCategory>(request);
-    const QString digit = QString::number(period);
     RandomSource &random = platform_.random();
     std::vector<Dish *> proposed;
     Dish *last = nullptr;
     for (size_t i = 0; i < categories.size(); ++i) {
         std::vector<Dish *> dishes = categories[i]->dishes();
-        std::erase_if(dishes, [&digit](const Dish *dish) { return !dish->dietPeriod().contains(digit); });
+        std::erase_if(dishes, [period](const Dish *dish) { return !dish->belongsToPhase(period); });
         if (dishes.empty())
             continue;
         proposed.push_back(drawn(random, dishes));

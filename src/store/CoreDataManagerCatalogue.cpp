@@ -1,15 +1,13 @@
 // What the store manager answers about the catalogue.
 
 #include "model/Dish.h"
+#include "model/DishInDietDay.h"
 #include "model/DishesCategory.h"
 #include "model/Ingredient.h"
 #include "model/Lookup.h"
 #include "platform/Platform.h"
 #include "platform/PropertyList.h"
-#include "platform/StringTables.h"
 #include "store/CoreDataManager.h"
-
-#include <algorithm>
 
 namespace kesto
 {
@@ -25,6 +23,17 @@ QVariantList names(const std::vector<Ingredient *> &lines)
     return list;
 }
 
+/// Lines of the shopping list outlive the dish that they came from: what they name becomes a product of its own.
+void keepPurchases(const std::vector<Ingredient *> &lines)
+{
+    for (Ingredient *line : lines) {
+        if (line->purchaseIngredient().empty())
+            continue;
+        line->setDishRU(nullptr);
+        line->setDishENG(nullptr);
+    }
+}
+
 } // namespace
 
 QVariantList CoreDataManager::dishesForDietPeriod(int period)
@@ -32,17 +41,13 @@ QVariantList CoreDataManager::dishesForDietPeriod(int period)
     FetchRequest request;
     request.sortDescriptors = {{"displayOrder"}};
     request.relationshipKeyPathsForPrefetching = {"dishes"};
-    const QString digit = QString::number(period);
-    const int nameSlot = context_->entityOf<Dish>().property(localized(QStringLiteral("nameKey")).toStdString()).slot;
     QVariantList sections;
     for (const DishesCategory *category : context_->fetch<DishesCategory>(request)) {
         std::vector<Dish *> dishes = category->dishes();
-        std::erase_if(dishes, [&](const Dish *dish) { return !dish->dietPeriod().contains(digit); });
+        std::erase_if(dishes, [&](const Dish *dish) { return !dish->belongsToPhase(period); });
         if (dishes.empty())
             continue;
-        std::stable_sort(dishes.begin(), dishes.end(), [nameSlot](const Dish *left, const Dish *right) {
-            return compareValues(left->attributeAt(nameSlot), right->attributeAt(nameSlot)) < 0;
-        });
+        Dish::sortByDisplayName(dishes);
         QVariantList content;
         for (Dish *dish : dishes)
             content.append(QVariant::fromValue<KeyValueCoding *>(dish));
@@ -55,6 +60,19 @@ QVariantList CoreDataManager::dishesForDietPeriod(int period)
 DishesCategory *CoreDataManager::dishesCategoryForIndex(int index)
 {
     return lastMatch<DishesCategory>(*context_, attribute("displayOrder") == index);
+}
+
+void CoreDataManager::deleteDish(Dish &dish)
+{
+    ManagedObjectContext &context = dish.managedObjectContext();
+    if (DishesCategory *category = dish.dishCategory(); category != nullptr)
+        category->removeDishes(dish);
+    for (DishInDietDay *placed : dish.dishInDietDays())
+        context.deleteObject(*placed);
+    keepPurchases(dish.ingredientsRU());
+    keepPurchases(dish.ingredientsENG());
+    context.deleteObject(dish);
+    (void)context.save(); // what can't be saved stays to be saved with the next change
 }
 
 bool CoreDataManager::saveRecipesToPlist()

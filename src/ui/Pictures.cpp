@@ -1,6 +1,6 @@
 #include "Pictures.h"
 
-#include "platform/Platform.h"
+#include "util/ImageFiles.h"
 
 #include <QFileInfo>
 #include <QImageReader>
@@ -14,13 +14,6 @@ namespace
 {
 
 constexpr int cachedKilobytes = 8 * 1024;
-
-/// A name is a file's name, never a path.
-bool isPlainName(const QString &name)
-{
-    return !name.isEmpty() && !name.contains(u'/') && !name.contains(u'\\') && !name.startsWith(u'.') &&
-           !name.contains(QChar(0));
-}
 
 bool isPhoto(const QString &extension)
 {
@@ -37,18 +30,12 @@ PictureFolder::PictureFolder(QString folder)
 
 QString PictureFolder::file(const QString &name) const
 {
-    if (!isPlainName(name))
-        return {};
-    const QFileInfo named(name);
-    const QString extension = named.suffix().toLower();
-    QString path;
+    const QString extension = QFileInfo(name).suffix().toLower();
     if (isPhoto(extension))
-        path = folder_ + u'/' + name;
-    else if (extension == QLatin1String("png") || extension == QLatin1String("svg"))
-        path = folder_ + u'/' + named.completeBaseName() + QStringLiteral(".svg");
-    else
-        path = folder_ + u'/' + name + QStringLiteral(".svg");
-    return QFileInfo(path).isFile() ? path : QString();
+        return fileInFolder(folder_, name);
+    const bool hasExtension = extension == QLatin1String("png") || extension == QLatin1String("svg");
+    const QString drawing = hasExtension ? name.chopped(extension.size() + 1) : name;
+    return fileInFolder(folder_, drawing + QStringLiteral(".svg"));
 }
 
 bool PictureFolder::isColoured(const QString &name)
@@ -102,9 +89,6 @@ QImage PictureFolder::image(const QString &name, const QSize &size, const QColor
     return image;
 }
 
-bool Pictures::exists(const QString &name) const
-{
-    return !PictureFolder(Platform::current().resourcesFolder() + QStringLiteral("/images")).file(name).isEmpty();
-}
+bool Pictures::exists(const QString &name) const { return !PictureFolder(imagesFolder()).file(name).isEmpty(); }
 
 } // namespace kesto

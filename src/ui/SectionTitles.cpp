@@ -1,5 +1,7 @@
 #include "SectionTitles.h"
 
+#include <QTextBoundaryFinder>
+
 namespace kesto
 {
 
@@ -19,6 +21,16 @@ void SectionTitles::setTable(TableModel *table)
     }
     read();
     Q_EMIT tableChanged();
+}
+
+QStringList SectionTitles::initials() const
+{
+    QStringList letters;
+    for (const QString &title : titles_) {
+        QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, title);
+        letters.append(title.left(qMax<qsizetype>(0, finder.toNextBoundary())));
+    }
+    return letters;
 }
 
 void SectionTitles::read()

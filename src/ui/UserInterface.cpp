@@ -16,6 +16,13 @@ Q_IMPORT_QML_PLUGIN(KestoPlugin)
 namespace kesto
 {
 
+namespace
+{
+
+const QString folder = QStringLiteral("qrc:/qt/qml/Kesto/");
+
+} // namespace
+
 UserInterface::UserInterface(Platform &platform)
     : platform_(platform)
     , appearance_(nullptr)
@@ -27,6 +34,18 @@ UserInterface::UserInterface(Platform &platform)
             log("interface: %@", warning.toString());
     });
     engine_.setOutputWarningsToStandardError(false);
+    readAhead();
+}
+
+void UserInterface::readAhead()
+{
+    const bool tablet = platform_.shared<Window>().isTablet();
+    for (const QString &file :
+         {QStringLiteral("Main.qml"),
+          tablet ? QStringLiteral("shell/SplitView.qml") : QStringLiteral("shell/SideMenuView.qml"),
+          QStringLiteral("shell/NavigationView.qml"), QStringLiteral("shell/TableControllerView.qml"),
+          QStringLiteral("rows/TextLine.qml"), QStringLiteral("rows/HeaderLine.qml")})
+        readAhead_.push_back(std::make_unique<QQmlComponent>(&engine_, folder + file, QQmlComponent::Asynchronous));
 }
 
 void UserInterface::prepare(QQmlEngine &engine, const Platform &platform)
@@ -42,7 +61,7 @@ bool UserInterface::load()
         {{QStringLiteral("appWindow"), QVariant::fromValue(&platform_.shared<Window>())},
          {QStringLiteral("alertCenter"), QVariant::fromValue(&platform_.shared<AlertCenter>())},
          {QStringLiteral("progress"), QVariant::fromValue(&platform_.shared<ProgressIndicator>())}});
-    engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Kesto/Main.qml")));
+    engine_.load(folder + QStringLiteral("Main.qml"));
     if (window() == nullptr)
         return false;
     window()->installEventFilter(&appearance_);

@@ -3,6 +3,10 @@
 #include "ui/Appearance.h"
 
 #include <QQmlApplicationEngine>
+#include <QQmlComponent>
+
+#include <memory>
+#include <vector>
 
 class QQuickWindow;
 
@@ -12,7 +16,8 @@ namespace kesto
 class Platform;
 
 /// The window on the screen: draws the platform's Window, alerts and progress indicator. Made after the application
-/// object and the platform, destroyed before them.
+/// object and the platform, destroyed before them. A thread of its own begins to read what nearly every first picture
+/// needs as soon as this is made; what is done before load() costs less then.
 class UserInterface
 {
 public:
@@ -31,9 +36,12 @@ public:
     static void prepare(QQmlEngine &engine, const Platform &platform);
 
 private:
+    void readAhead();
+
     Platform &platform_;
     Appearance appearance_;
     QQmlApplicationEngine engine_;
+    std::vector<std::unique_ptr<QQmlComponent>> readAhead_;
 };
 
 } // namespace kesto

@@ -1,5 +1,6 @@
 #include "app/WindowFixture.h"
 #include "components/NavigationController.h"
+#include "components/PopoverController.h"
 #include "components/Window.h"
 #include "model/Dish.h"
 #include "platform/StringTables.h"
@@ -8,6 +9,10 @@
 #include "recipes/FavoritesManager.h"
 #include "recipes/FavoritesViewController.h"
 #include "store/CoreDataManager.h"
+
+#include <QPointer>
+#include <QQuickItem>
+#include <QQuickWindow>
 
 namespace kesto::test
 {
@@ -106,6 +111,66 @@ TEST_F(RecipesWindowTest, ATabletBrowsesBesideTheCategories)
     same.updateToPeriod(3);
     EXPECT_TRUE(user.waitsToSee(QAccessible::ListItem, nameOf(same.tiles()->tiles()[0]))) << user.view();
     EXPECT_TRUE(user.waitsUntilGone(QAccessible::ListItem, QStringLiteral("Консол."))) << "the bubble closes";
+}
+
+TEST_F(RecipesWindowTest, ABubbleOutOfABubbleLeavesItAsItIs)
+{
+    startReady(Device::Tablet, QSize(1180, 820));
+    const Person user = person();
+    Window &window = program_->window();
+    auto categories = std::make_unique<DishesCategoriesViewController>(nullptr, 0);
+    window.rootViewController()
+        ->presentPopover(std::make_unique<NavigationController>(std::move(categories)), {})
+        ->setSizeHint({400, 420});
+    ASSERT_TRUE(user.touches(QAccessible::ListItem, salads)) << user.view();
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, salads)) << user.view();
+    DishesViewController same(0, nullptr, 0);
+    const QList<DishTile> &tiles = same.tiles()->tiles();
+    ASSERT_GT(tiles.size(), 6);
+    ASSERT_TRUE(tabsTo(user, nameOf(tiles[0]))) << user.focus().toStdString();
+    user.presses(Qt::Key_End);
+    const QString last = nameOf(tiles.constLast());
+    ASSERT_EQ(user.focus(), last);
+    QQuickItem &view = *program_->view().contentItem();
+    const QPointer<QQuickItem> grid(item(
+        view, [](const QQuickItem &each) { return each.isVisible() && each.objectName() == QStringLiteral("tiles"); }));
+    ASSERT_FALSE(grid.isNull());
+    const qreal place = grid->property("contentY").toReal();
+    ASSERT_GT(place, 0);
+
+    const QString filter = localized(QStringLiteral("filter"));
+    ASSERT_TRUE(user.touches(QAccessible::Button, filter)) << user.view();
+    ASSERT_TRUE(user.waitsToSee(QAccessible::ListItem, QStringLiteral("Консол."))) << user.view();
+    EXPECT_EQ(window.popovers().size(), 2);
+    ASSERT_FALSE(grid.isNull());
+    EXPECT_EQ(grid->property("contentY").toReal(), place);
+    const QPointer<QQuickItem> bubble(item(view, [&window](const QQuickItem &each) {
+        return each.property("shown").value<PopoverController *>() == window.popovers().constLast();
+    }));
+    ASSERT_FALSE(bubble.isNull());
+    const auto *anchor = bubble->property("anchor").value<QQuickItem *>();
+    ASSERT_NE(anchor, nullptr) << "it points at the button in the bubble below";
+    EXPECT_EQ(anchor->objectName(), QStringLiteral("bar/filter"));
+
+    user.presses(Qt::Key_Escape);
+    EXPECT_TRUE(user.waitsUntilGone(QAccessible::ListItem, QStringLiteral("Консол.")));
+    EXPECT_EQ(window.popovers().size(), 1);
+    ASSERT_FALSE(grid.isNull());
+    EXPECT_EQ(grid->property("contentY").toReal(), place);
+    user.presses(Qt::Key_Home); // the keys are back in the bubble below
+    EXPECT_NE(user.focus(), last);
+
+    ASSERT_TRUE(user.touches(QAccessible::Button, filter)) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::ListItem, QStringLiteral("Консол."))) << user.view();
+    same.updateToPeriod(3);
+    ASSERT_GT(tiles.size(), 0);
+    EXPECT_TRUE(user.waitsToSee(QAccessible::ListItem, nameOf(tiles[0]))) << user.view();
+    EXPECT_EQ(window.popovers().size(), 1);
+    EXPECT_FALSE(grid.isNull());
+    user.presses(Qt::Key_Escape); // to the categories, and out of the bubble
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, QStringLiteral("Добавить блюдо"))) << user.view();
+    user.presses(Qt::Key_Escape);
+    EXPECT_TRUE(window.popovers().isEmpty());
 }
 
 TEST_F(RecipesWindowTest, ChoosesDishesByTouchAndByKeys)

@@ -53,18 +53,6 @@ protected:
     }
 };
 
-/// The view of a picture, or null.
-QQuickItem *pictureView(QQuickItem *below)
-{
-    if (below->property("zoom").isValid())
-        return below;
-    for (QQuickItem *child : below->childItems()) {
-        if (QQuickItem *found = pictureView(child))
-            return found;
-    }
-    return nullptr;
-}
-
 const QString addOwn = QStringLiteral("Add your own product");
 
 TEST_F(ShoppingWindowTest, TypesTicksAndCounts)
@@ -106,6 +94,34 @@ TEST_F(ShoppingWindowTest, TypesTicksAndCounts)
     EXPECT_EQ(lines(), QStringList{QStringLiteral("m=7")});
 }
 
+TEST_F(ShoppingWindowTest, AFieldThatWasLeftUntouchedShowsTheQuantityOfItsLine)
+{
+    for (const char *name : {"tea", "salt"}) {
+        CoreDataManager::sharedManager().addIngredientToCard(QString::fromLatin1(name));
+        QTest::qWait(5); // a later instant
+    }
+    const std::vector<PurhaseIngredient *> stored = CoreDataManager::sharedManager().purhaseIngredients();
+    stored[0]->setCount(QStringLiteral("3 g"));
+    stored[1]->setCount(QStringLiteral("5 bags"));
+    auto &cart = open<CartViewController>();
+    const Person user = person();
+    const auto shown = [this](const char *product) {
+        const QString name = QStringLiteral("Quantity: ") + QLatin1String(product);
+        const QQuickItem *field = item(*program_->view().contentItem(), [&name](const QQuickItem &each) {
+            return each.isVisible() && each.property("placeholderText").isValid() && each.property("name") == name;
+        });
+        return field != nullptr ? field->property("text").toString() : QString();
+    };
+    ASSERT_TRUE(user.touches(QAccessible::EditableText, QStringLiteral("Quantity: salt"))) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::EditableText, QStringLiteral("Quantity: tea"))) << user.view();
+    types({Qt::Key_Escape});
+    CoreDataManager::sharedManager().addIngredientToCard(QStringLiteral("tea"));
+    cart.reloadData();
+    EXPECT_EQ(lines(), QStringList({QStringLiteral("tea=5 bags"), QStringLiteral("salt=3 g")}));
+    EXPECT_EQ(shown("tea"), QStringLiteral("5 bags"));
+    EXPECT_EQ(shown("salt"), QStringLiteral("3 g"));
+}
+
 TEST_F(ShoppingWindowTest, KeepsTheLastRowOfALongListInReach)
 {
     ManagedObjectContext &context = *CoreDataManager::sharedManager().managedObjectContext();
@@ -137,7 +153,8 @@ TEST_F(ShoppingWindowTest, LooksCloselyAtAPicture)
     const Person user = person();
     ASSERT_TRUE(user.waitsToSee(QAccessible::Graphic, QStringLiteral("Icon"))) << user.view();
     QQuickWindow &window = program_->view();
-    const QQuickItem *view = pictureView(window.contentItem());
+    const QQuickItem *view =
+        item(*window.contentItem(), [](const QQuickItem &each) { return each.property("zoom").isValid(); });
     ASSERT_NE(view, nullptr);
     const auto zoom = [&] { return view->property("zoom").toReal(); };
     const QPoint middle(195, 440);

@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QQuickItem>
 #include <QQuickWindow>
 
 namespace kesto::test
@@ -38,6 +39,17 @@ void WindowFixture::prepare(std::optional<int> daysOfDiet)
     defaults.setInteger(60, Keys::kPeriod2Key);
     defaults.setInteger(100, Keys::kPeriod3Key);
     ASSERT_TRUE(defaults.synchronize());
+}
+
+QQuickItem *WindowFixture::item(QQuickItem &in, const std::function<bool(const QQuickItem &)> &wanted)
+{
+    if (wanted(in))
+        return &in;
+    for (QQuickItem *child : in.childItems()) {
+        if (QQuickItem *found = item(*child, wanted))
+            return found;
+    }
+    return nullptr;
 }
 
 void WindowFixture::TearDown()

@@ -8,8 +8,11 @@
 
 #include <QTemporaryDir>
 
+#include <functional>
 #include <memory>
 #include <optional>
+
+class QQuickItem;
 
 namespace kesto::test
 {
@@ -23,6 +26,8 @@ protected:
     /// Before the first start: there is nothing to import, and the diet, if any, began so many days ago.
     void prepare(std::optional<int> daysOfDiet);
     void TearDown() override;
+    /// The first thing in another that is wanted, or null.
+    static QQuickItem *item(QQuickItem &in, const std::function<bool(const QQuickItem &)> &wanted);
     [[nodiscard]] Person person() { return Person(program_->view()); }
 
     LogCapture log_;

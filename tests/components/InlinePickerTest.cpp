@@ -183,6 +183,19 @@ TEST_F(InlinePickerTest, ItsWheelsShowTheRowAndTellWhatTheUserTurns)
     EXPECT_EQ(table.turned.size(), 2);
 }
 
+TEST_F(InlinePickerTest, WheelsThatStillTurnCountForTheRowTheyWereOpenedFor)
+{
+    table.displayPickerForIndexPath({0, 0});
+    const QPointer<PickerComponent> wheel = table.picker()->components().at(1);
+    QObject::connect(table.picker(), &Picker::shouldSettle, wheel, [wheel] { wheel->select(4); });
+    table.displayPickerForIndexPath({0, 2});
+    EXPECT_EQ(table.turned, QStringList{QStringLiteral("a:4/1")});
+    ASSERT_FALSE(wheel.isNull());
+    wheel->select(6);
+    EXPECT_EQ(table.turned.size(), 1) << "nobody hears the wheels of another row";
+    EXPECT_EQ(table.picker()->selectedRow(1), 0);
+}
+
 TEST_F(InlinePickerTest, AnyOrderOfEditsKeepsThePickerBelowItsRow)
 {
     std::mt19937 random(7); // NOLINT(cert-msc51-cpp): the same edits every time

@@ -38,12 +38,13 @@ TEST_F(PickerTest, AWheelStaysInItsRange)
     for (int row : {-1, 3, 0, 2, 2})
         wheel->select(row);
     picker.components().at(1)->select(0);
-    EXPECT_EQ(turned, QStringList{QStringLiteral("2/2")});
+    const QStringList chosen{QStringLiteral("0/2"), QStringLiteral("2/2"), QStringLiteral("2/2")};
+    EXPECT_EQ(turned, chosen) << "the row that stands there may be chosen, too";
     wheel->setTitles({QStringLiteral("only")});
     EXPECT_EQ(picker.selectedRow(2), 0);
     picker.setContent({letters}, {1});
     EXPECT_EQ(picker.components().size(), 1);
-    EXPECT_EQ(turned.size(), 1); // the program turning is not the user
+    EXPECT_EQ(turned, chosen); // the program turning is not the user
 }
 
 TEST_F(PickerTest, ADayMovesWithinItsMonth)

@@ -23,8 +23,10 @@ void pick(CalculatorViewController &screen, Input input, const QList<int> &rows)
     if (screen.pickerOwner() != row) // open wheels above push the row down
         screen.selectRow(0, row.row + (screen.pickerOwner() && screen.pickerOwner()->row < row.row ? 1 : 0));
     ASSERT_EQ(screen.pickerOwner(), row);
-    for (int component = 0; component < rows.size(); ++component)
-        screen.picker()->components()[component]->select(rows[component]);
+    for (int component = 0; component < rows.size(); ++component) {
+        if (screen.picker()->selectedRow(component) != rows[component])
+            screen.picker()->components()[component]->select(rows[component]);
+    }
 }
 
 struct WheelCase

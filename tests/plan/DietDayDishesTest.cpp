@@ -20,9 +20,11 @@ TEST_F(DietDayScreenTest, AddsDishesAtTheEnd)
     EXPECT_FALSE(program.context().hasChanges());
     screen->deleteRowByUser(Screen::DishesSection, 0);
     EXPECT_EQ(dishes(), "B C");
+    EXPECT_EQ(stored(), "0B 1C");
+    EXPECT_FALSE(program.context().hasChanges());
     plan({"D"});
     EXPECT_EQ(dishes(), "B C D");
-    EXPECT_EQ(stored(), "1B 2C 2D") << "its place is the number of those before it, ties go by age";
+    EXPECT_EQ(stored(), "0B 1C 2D") << "its place is the number of those before it";
     reopen();
     EXPECT_EQ(dishes(), "B C D");
     EXPECT_EQ(dishCount(), 4) << "a dish of the catalogue stays";
@@ -39,7 +41,7 @@ TEST_F(DietDayScreenTest, QuickDishesLiveAndDieWithTheirDay)
     EXPECT_EQ(alert->buttonTitles(), texts({"Отменить", "Добавить", "Добавить и внести в корзину"}));
     alert->answer(1);
     answerQuickDish(0, QStringLiteral("Нет"));
-    answerQuickDish(2, QStringLiteral("  "));
+    answerQuickDish(2, {});
     EXPECT_EQ(dishCount(), 0);
     EXPECT_EQ(dishes(), "");
 
@@ -71,6 +73,88 @@ TEST_F(DietDayScreenTest, QuickDishesLiveAndDieWithTheirDay)
     EXPECT_EQ(program.context().fetch<DishInDietDay>().size(), 1U);
 }
 
+TEST_F(DietDayScreenTest, AQuickDishNeedsATextAndItsScreen)
+{
+    open();
+    answerQuickDish(1, QStringLiteral("  "));
+    ASSERT_EQ(screen->content().size(), 1U) << "a blank is a text, too";
+    EXPECT_EQ(screen->content()[0]->dish()->nameENG(), QStringLiteral("  "));
+
+    screen->selectRow(Screen::AddSection, Screen::AddQuickDishRow);
+    close();
+    ShownAlert *alert = AlertCenter::sharedCenter().current();
+    ASSERT_NE(alert, nullptr);
+    alert->setText(QStringLiteral("Яблоко"));
+    alert->answer(1);
+    EXPECT_EQ(dishCount(), 1) << "nobody waits for the answer any more";
+}
+
+TEST_F(DietDayScreenTest, TheNextDishComesLastWhateverWasRemoved)
+{
+    open();
+    plan({"A", "B", "C", "D", "E", "F"});
+    screen->deleteRowByUser(Screen::DishesSection, 1);
+    screen->deleteRowByUser(Screen::DishesSection, 0);
+    EXPECT_EQ(stored(), "0C 1D 2E 3F");
+    plan({"G"});
+    EXPECT_EQ(dishes(), "C D E F G");
+    reopen();
+    EXPECT_EQ(dishes(), "C D E F G");
+
+    // Gaps that are stored already, or come with a dish that is deleted elsewhere.
+    for (int i = 0; DishInDietDay * planned : screen->content())
+        planned->setDisplayOrder(i += 2);
+    ASSERT_TRUE(program.context().save());
+    reopen();
+    plan({"H"});
+    EXPECT_EQ(stored(), "0C 1D 2E 3F 4G 5H");
+
+    offerProposals();
+    while (screen->content().size() > 3)
+        screen->deleteRowByUser(Screen::DishesSection, 1);
+    program.context().deleteObject(*screen->content()[0]->dish());
+    screen->setDate(march(7), attack);
+    EXPECT_EQ(dishes(), "G H");
+    screen->autoFillDay();
+    EXPECT_EQ(dishes(), "G H 1a 2b 3a 5b 7a 1b");
+    reopen();
+    EXPECT_EQ(dishes(), "G H 1a 2b 3a 5b 7a 1b") << "as it was shown";
+    EXPECT_EQ(stored(), "0G 1H 21a 32b 43a 55b 67a 71b");
+}
+
+TEST_F(DietDayScreenTest, ADishIsChosenWhereAnotherWasDeleted)
+{
+    openOnTablet();
+    plan({"A", "B", "C"});
+    screen->selectRow(Screen::AddSection, Screen::AddDishRow);
+    ASSERT_NE(screen->popover(), nullptr);
+    program.context().deleteObject(*screen->content()[0]->dish());
+    plan({"D"});
+    EXPECT_EQ(dishes(), "B C D");
+    EXPECT_EQ(stored(), "0B 1C 2D");
+}
+
+TEST_F(DietDayScreenTest, AQuickDishLeavesItsProductsOnTheShoppingList)
+{
+    open();
+    answerQuickDish(1, QStringLiteral("Каша"));
+    for (const char *name : {"Овёс", "Соль"}) {
+        auto &line = program.context().insert<Ingredient>();
+        line.setName(QString::fromUtf8(name));
+        line.setDishRU(screen->content()[0]->dish());
+    }
+    ASSERT_TRUE(program.context().save());
+    program.manager().addIngredientToCard(QStringLiteral("Овёс"));
+    screen->deleteRowByUser(Screen::DishesSection, 0);
+    reopen();
+    EXPECT_EQ(dishCount(), 0);
+    const auto cart = program.manager().purhaseIngredients();
+    ASSERT_EQ(cart.size(), 1U);
+    ASSERT_NE(cart[0]->ingredient(), nullptr);
+    EXPECT_EQ(cart[0]->ingredient()->name(), QStringLiteral("Овёс"));
+    EXPECT_EQ(program.context().fetch<Ingredient>().size(), 1U) << "the others go with their dish";
+}
+
 TEST_F(DietDayScreenTest, EditingMovesAndRemoves)
 {
     open();
@@ -100,24 +184,14 @@ TEST_F(DietDayScreenTest, EditingMovesAndRemoves)
     screen->moveRowByUser(Screen::DishesSection, 0, Screen::DishesSection, 1);
     EXPECT_EQ(dishes(), "C A D") << "only while editing";
     reopen();
-    EXPECT_EQ(stored(), "0C 2A 3D");
+    EXPECT_EQ(stored(), "0C 1A 2D");
     EXPECT_EQ(dishes(), "C A D");
 }
 
 TEST_F(DietDayScreenTest, FillsADayAutomatically)
 {
-    for (const quint32 order : {1, 2, 3, 5, 7}) {
-        auto &each = program.context().insert<DishesCategory>();
-        each.setDisplayOrder(order);
-        for (const char *letter : {"a", "b"}) {
-            auto &dish = program.context().insert<Dish>();
-            dish.setNameRU(QString::number(order) + QLatin1String(letter));
-            dish.setDietPeriod(QStringLiteral("0"));
-            each.addDishes(dish);
-        }
-    }
+    offerProposals();
     LogCapture capture;
-    program.platform.random().set({0, 1, 1, 0, 1, 0});
     open();
     plan({"A", "B"});
     capture.take();
@@ -166,6 +240,10 @@ TEST_F(DietDayScreenTest, NamesOfDishesMayBeAnything)
     screen->setDate(march(7), attack);
     EXPECT_EQ(titles(Screen::DishesSection), (QStringList{QStringLiteral("-"), QStringLiteral("-"),
                                                           QStringLiteral("Soup"), longName, QStringLiteral("🍲 مرق")}));
+    program.storePlan(march(5), 3, 10, 10);
+    CalendarViewController calendar;
+    calendar.loadViewIfNeeded();
+    EXPECT_EQ(calendar.dishes(), titles(Screen::DishesSection)) << "the calendar lists them by the same names";
     EXPECT_FALSE(shown(Screen::DishesSection, 1).selectable && shown(Screen::DishesSection, 0).selectable);
     reopen();
     EXPECT_EQ(screen->content().size(), 5U);

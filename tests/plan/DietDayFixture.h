@@ -8,6 +8,7 @@
 #include "model/Dish.h"
 #include "model/DishInDietDay.h"
 #include "model/DishesCategory.h"
+#include "plan/CalendarContainerViewController.h"
 #include "plan/DietDayDetailViewController.h"
 
 namespace kesto::test
@@ -49,6 +50,20 @@ protected:
         window().setRootViewController(std::move(navigation));
     }
     void openOnTablet(int period = attack) { open(period, {1180, 820}); }
+    /// On a tablet beside the calendar of a plan from 5 March on.
+    CalendarViewController &openBesideTheMonth()
+    {
+        close();
+        program.storePlan(march(5), 3, 10, 10);
+        window().setSize({1180, 820});
+        auto made = std::make_unique<CalendarViewController>();
+        CalendarViewController &calendar = *made;
+        auto day = std::make_unique<Screen>(made.get());
+        screen = day.get();
+        window().setRootViewController(std::make_unique<NavigationController>(
+            std::make_unique<CalendarContainerViewController>(std::move(made), std::move(day))));
+        return calendar;
+    }
     void close()
     {
         window().setRootViewController(nullptr);
@@ -115,6 +130,21 @@ protected:
     {
         for (const char *name : names)
             screen->addDish(catalogueDish(name));
+    }
+    /// Two dishes of Attack in each category that is proposed from, and the random numbers of a proposal.
+    void offerProposals()
+    {
+        for (const quint32 order : {1, 2, 3, 5, 7}) {
+            auto &each = program.context().insert<DishesCategory>();
+            each.setDisplayOrder(order);
+            for (const char *letter : {"a", "b"}) {
+                auto &dish = program.context().insert<Dish>();
+                dish.setNameRU(QString::number(order) + QLatin1String(letter));
+                dish.setDietPeriod(QStringLiteral("0"));
+                each.addDishes(dish);
+            }
+        }
+        program.platform.random().set({0, 1, 1, 0, 1, 0});
     }
     void answerQuickDish(int button, const QString &name)
     {

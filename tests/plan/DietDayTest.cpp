@@ -1,7 +1,6 @@
 #include "DietDayFixture.h"
 
 #include "objectgraph/StatementLog.h"
-#include "plan/CalendarContainerViewController.h"
 
 #include <cmath>
 
@@ -110,6 +109,18 @@ TEST_F(DietDayScreenTest, WheelsShowALastWeightWithoutStoringIt)
         EXPECT_EQ(wheels(), text);
         EXPECT_EQ(record()->weight(), weight) << "looking changes nothing";
     }
+}
+
+TEST_F(DietDayScreenTest, OneTouchRecordsTheWeightThatTheWheelsOpenOn)
+{
+    program.weigh(march(5), 80.6F);
+    open();
+    screen->selectRow(Screen::DaySection, Screen::weightRow);
+    screen->picker()->components()[1]->select(screen->picker()->selectedRow(1));
+    EXPECT_EQ(record()->weight(), 80.6F);
+    EXPECT_EQ(shown(0, 0).detail, QStringLiteral("80.6 кг"));
+    reopen();
+    EXPECT_EQ(record()->weight(), 80.6F);
 }
 
 TEST_F(DietDayScreenTest, WheelsStoreKilograms)
@@ -223,14 +234,7 @@ TEST_F(DietDayScreenTest, SurvivesWhatIsDeletedElsewhere)
 
 TEST_F(DietDayScreenTest, BesideTheMonthBothShowTheSame)
 {
-    program.storePlan(march(5), 3, 10, 10);
-    window().setSize({1180, 820});
-    auto made = std::make_unique<CalendarViewController>();
-    CalendarViewController &calendar = *made;
-    auto day = std::make_unique<Screen>(made.get());
-    screen = day.get();
-    window().setRootViewController(std::make_unique<NavigationController>(
-        std::make_unique<CalendarContainerViewController>(std::move(made), std::move(day))));
+    CalendarViewController &calendar = openBesideTheMonth();
     const auto touch = [&](int number) { calendar.touchCell(calendar.month()->indexOf(march(number))); };
     const auto kindOf = [&](int number) {
         return calendar.month()->cells()[calendar.month()->indexOf(march(number))].kind;

@@ -4,6 +4,7 @@
 #include "recipes/CartViewController.h"
 
 #include <QAbstractItemModelTester>
+#include <QJSEngine>
 
 namespace kesto::test
 {
@@ -45,7 +46,7 @@ struct CartScreen : ShoppingFixture
         return texts.join(u' ');
     }
     [[nodiscard]] const TableModel &table() const { return *screen->table(); }
-    [[nodiscard]] qlonglong idOf(int row) const { return table().rowAt({lines, row}).value.toLongLong(); }
+    [[nodiscard]] QString idOf(int row) const { return table().rowAt({lines, row}).value.toString(); }
     [[nodiscard]] QStringList rightButtons() const { return images(screen->rightBarButtonItems()); }
 
     CartViewController *screen = nullptr;
@@ -81,8 +82,8 @@ TEST(Cart, TicksLinesOffAndKeepsTheirQuantities)
 TEST(Cart, GivesAQuantityToTheLineItWasTypedFor)
 {
     CartScreen cart{"salt", "milk", "egg"};
-    const qlonglong salt = cart.idOf(2);
-    const qlonglong milk = cart.idOf(1);
+    const QString salt = cart.idOf(2);
+    const QString milk = cart.idOf(1);
     cart.addToCart(QStringLiteral("salt")); // it moves to the top
     cart.screen->reloadData();
     cart.screen->endEditingCount(salt, QStringLiteral("1 kg"));
@@ -97,6 +98,23 @@ TEST(Cart, GivesAQuantityToTheLineItWasTypedFor)
     cart.screen->endEditingText(lines, 0, QStringLiteral("3"));
     cart.screen->selectRow(lines, 0);
     EXPECT_EQ(cart.cart(), QStringList{QStringLiteral("egg")}) << "a line that went elsewhere stays away";
+}
+
+TEST(Cart, AViewNamesLinesAlsoWhereNothingCanBeStored)
+{
+    ShoppingFixture program;
+    ASSERT_TRUE(QDir().mkpath(program.path("Diet.sqlite"))); // no place for the file
+    for (const char *name : {"tea", "salt", "milk"})
+        program.addToCart(QString::fromLatin1(name));
+    auto &screen = program.show(std::make_unique<CartViewController>());
+    ASSERT_GT(screen.pIngAtIndexPath({lines, 1})->objectID(), qint64(1) << 53) << "more than a script's number holds";
+    QJSEngine engine;
+    QJSEngine::setObjectOwnership(&screen, QJSEngine::CppOwnership);
+    const QVariant value = screen.table()->rowAt({lines, 1}).value;
+    const QJSValue leave = engine.evaluate(QStringLiteral("(cart, line) => cart.endEditingCount(line, '7')"));
+    EXPECT_FALSE(leave.call({engine.newQObject(&screen), engine.toScriptValue(value)}).isError());
+    for (int row = 0; row < 3; ++row)
+        EXPECT_EQ(screen.pIngAtIndexPath({lines, row})->count(), row == 1 ? QStringLiteral("7") : QString());
 }
 
 TEST(Cart, AddsAProductOfOnesOwn)

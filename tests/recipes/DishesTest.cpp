@@ -1,4 +1,4 @@
-#include "RecipesFixture.h"
+#include "DishesFixture.h"
 
 #include "components/PopoverController.h"
 #include "objectgraph/StatementLog.h"
@@ -13,52 +13,8 @@ namespace kesto::test
 namespace
 {
 
-/// Seven salads, one soup.
-class DishesTest : public testing::Test
+class DishesTest : public DishesFixture
 {
-protected:
-    DishesTest() { fill(); }
-
-    void fill()
-    {
-        for (const auto &[nameRU, phases] :
-             {std::pair("ж", "0, 1"), {"б", "0"}, {"в", "1"}, {"а", "2"}, {"д", "3"}, {"е", "12"}, {"г", ""}})
-            program.addDish(QString::fromUtf8(nameRU), QString::fromUtf8(phases));
-        program.addDish(QStringLiteral("суп"), QStringLiteral("0"), 2);
-        program.save();
-    }
-    static QString titles(DishesViewController &screen)
-    {
-        QStringList list;
-        for (const DishTile &tile : screen.tiles()->tiles())
-            list.append(tile.title + (tile.checked ? QStringLiteral("!") : QString()));
-        return list.join(u' ');
-    }
-    static int rowOf(DishesViewController &screen, const char *title)
-    {
-        const QList<DishTile> &tiles = screen.tiles()->tiles();
-        return static_cast<int>(
-            std::find_if(tiles.begin(), tiles.end(),
-                         [&](const DishTile &tile) { return tile.title == QString::fromUtf8(title); }) -
-            tiles.begin());
-    }
-    /// In the window, on a stack of its own.
-    DishesViewController &show(std::unique_ptr<DishesViewController> screen)
-    {
-        DishesViewController &shown = *screen;
-        auto root = std::make_unique<NavigationController>(std::move(screen));
-        stack = root.get();
-        Window::sharedWindow().setRootViewController(std::move(root));
-        return shown;
-    }
-    ~DishesTest() override
-    {
-        Window::sharedWindow().setRootViewController(nullptr);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-
-    RecipesFixture program;
-    NavigationController *stack = nullptr;
 };
 
 TEST_F(DishesTest, SortsACategoryByTheNameInTheLanguage)
@@ -211,71 +167,29 @@ TEST_F(DishesTest, DishesOfTheUserComeAndGo)
     EXPECT_EQ(titles(screen), QStringLiteral("б в г д е"));
 }
 
-TEST_F(DishesTest, AddModeOffersThePhaseAndMarksWhatTheJournalHas)
+TEST_F(DishesTest, ADishThatWasHandedOverKeepsItsCategoryWhateverHappensNext)
 {
-    program.placeInJournal(program.dish("б"));
-    program.plan(program.dish("ж"));
-    AddingDelegate delegate(program, AddingDelegate::Into::Journal);
-    auto made = std::make_unique<DishesViewController>(0, &program.day(), 0);
-    made->setDelegate(&delegate);
-    DishesViewController &screen = show(std::move(made));
-    EXPECT_TRUE(screen.addDishMode());
-    EXPECT_EQ(titles(screen), QStringLiteral("б! ж")) << "what is planned only does not count";
-    EXPECT_TRUE(screen.tiles()->tiles()[0].checkable);
-    EXPECT_TRUE(screen.dayAlreadyIncludeDish(program.dish("б")));
-    EXPECT_FALSE(screen.dayAlreadyIncludeDish(program.dish("ж")));
-
-    QSignalSpy changed(screen.tiles(), &QAbstractItemModel::dataChanged);
-    screen.selectDishButtonTouchedAtIndexPath(1);
-    EXPECT_EQ(titles(screen), QStringLiteral("б! ж!"));
-    EXPECT_EQ(changed.count(), 1);
-    screen.selectDishButtonTouchedAtIndexPath(1);
-    EXPECT_EQ(delegate.added, QStringList({QStringLiteral("ж"), QStringLiteral("ж")})) << "the delegate decides";
-    screen.selectDishButtonTouchedAtIndexPath(2);
-    EXPECT_EQ(delegate.added.size(), 2);
-
-    delegate.into = AddingDelegate::Into::Plan;
-    DishesViewController planning(0, &program.day(), 2);
-    planning.setDelegate(&delegate);
-    EXPECT_EQ(titles(planning), QStringLiteral("а е"));
-    planning.selectDishButtonTouchedAtIndexPath(1);
-    planning.updateToPeriod(0);
-    EXPECT_EQ(titles(planning), QStringLiteral("а е!")) << "what was planned from here";
-
-    delegate.into = AddingDelegate::Into::Nothing;
-    DishesViewController none(0, &program.day(), 2);
-    none.setDelegate(&delegate);
-    EXPECT_EQ(titles(none), QStringLiteral("а е"));
-    none.selectDishButtonTouchedAtIndexPath(0);
-    EXPECT_EQ(titles(none), QStringLiteral("а е")) << "it was refused";
+    auto &made = program.context().insert<Dish>();
+    made.setNameRU(QStringLiteral("бб"));
+    program.save();
+    std::make_unique<DishesViewController>(0)->dishAdded(made);
+    program.restart(); // without another save
+    EXPECT_EQ(program.dish("бб").dishCategory(), &program.category(0));
 }
 
-TEST_F(DishesTest, AddModeWithoutAJournalMarksNothing)
+TEST_F(DishesTest, ADishDeletedOnItsScreenLeavesTheGrid)
 {
-    program.placeInJournal(program.dish("б"));
-    DietDay &other = DietDay::dietDatWithDate(program.platform.date(2024, 3, 8), program.context());
-    EXPECT_EQ(titles(*std::make_unique<DishesViewController>(0, &other, 0)), QStringLiteral("б ж"));
-    EXPECT_EQ(titles(*std::make_unique<DishesViewController>(0, nullptr, 0)), QStringLiteral("б ж"));
-    DietDay &day = program.day();
-    program.context().deleteObject(day);
-    EXPECT_EQ(titles(*std::make_unique<DishesViewController>(0, &day, 0)), QStringLiteral("б ж"));
-}
-
-TEST_F(DishesTest, ADelegateMayCloseTheScreens)
-{
-    struct Closing : AddDishDelegate
-    {
-        void addDish(Dish &) override
-        {
-            Window::sharedWindow().setRootViewController(nullptr);
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        }
-    } delegate;
-    auto made = std::make_unique<DishesViewController>(0, &program.day(), 0);
-    made->setDelegate(&delegate);
-    const QPointer<DishesViewController> screen(&show(std::move(made)));
-    screen->selectDishButtonTouchedAtIndexPath(0);
-    EXPECT_TRUE(screen.isNull());
+    program.dish("б").setUserCreated(true);
+    program.plan(program.dish("б"));
+    program.save();
+    DishesViewController &screen = show(std::make_unique<DishesViewController>(0));
+    screen.selectItem(rowOf(screen, "б"));
+    opened().deleteDish();
+    EXPECT_EQ(stack->topViewController(), &screen);
+    EXPECT_EQ(titles(screen), QStringLiteral("а в г д е ж"));
+    EXPECT_TRUE(program.day().dishes().empty());
+    screen.selectItem(1);
+    EXPECT_EQ(opened().dish(), &program.dish("в"));
 }
 
 TEST_F(DishesTest, CategoriesOpenInTheirOrder)

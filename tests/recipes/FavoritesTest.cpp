@@ -235,6 +235,48 @@ TEST_F(FavoritesScreenTest, AddModeOffersThePhaseAndMarksWhatIsPlanned)
     EXPECT_EQ(shown(showToAdd(3, &delegate)), QString());
 }
 
+TEST_F(FavoritesScreenTest, CheckMarksOfTheListAndOfTheDishAgree)
+{
+    for (const AddingDelegate::Into into :
+         {AddingDelegate::Into::Nothing, AddingDelegate::Into::Journal, AddingDelegate::Into::Plan}) {
+        SCOPED_TRACE(static_cast<int>(into));
+        const bool taken = into != AddingDelegate::Into::Nothing;
+        AddingDelegate delegate(program, into);
+        FavoritesViewController &screen = showToAdd(0, &delegate);
+        EXPECT_EQ(shown(screen), QStringLiteral("[А] Арбуз [Б] Бульон блины"));
+        const auto check = [this] { return stack->topViewController()->rightBarButtonItems().value(0); };
+        const auto isSelected = [&] { return check()->image() == QStringLiteral("checkmarkButton_selected.png"); };
+        screen.selectRow(1, 1);
+        EXPECT_FALSE(isSelected());
+        check()->trigger();
+        check()->trigger();
+        EXPECT_EQ(isSelected(), taken);
+        stack->popViewController(false);
+        EXPECT_EQ(shown(screen),
+                  QStringLiteral("[А] Арбуз [Б] Бульон блины") + (taken ? QStringLiteral("!") : QString()));
+        screen.touchAccessory(0, 0);
+        screen.selectRow(0, 0);
+        EXPECT_EQ(isSelected(), taken);
+        EXPECT_EQ(delegate.added.size(), 3) << "every touch is heard";
+    }
+}
+
+TEST_F(FavoritesScreenTest, ADishDeletedOnItsScreenLeavesTheList)
+{
+    for (const char *name : {"Борщ", "7 трав"})
+        program.dish(name).setUserCreated(true);
+    program.save();
+    FavoritesViewController &screen = show(std::make_unique<FavoritesViewController>());
+    for (const auto &[row, left] : {std::pair(IndexPath{3, 0}, "[7] 7 трав [Ё] Ёжики [А] Арбуз [Б] Бульон блины"),
+                                    {IndexPath{0, 0}, "[Ё] Ёжики [А] Арбуз [Б] Бульон блины"}}) {
+        screen.selectRow(row.section, row.row);
+        dynamic_cast<DishDetailViewController &>(*stack->topViewController()).deleteDish();
+        EXPECT_EQ(stack->topViewController(), &screen);
+        EXPECT_EQ(shown(screen).toStdString(), left);
+    }
+    EXPECT_EQ(favorites().count(), 6) << "the names stay";
+}
+
 TEST(Favorites, ShowASmallPhotoWhereThereIsOne)
 {
     const QString shipped = TestPlatform().platform().resourcesFolder();
@@ -243,22 +285,26 @@ TEST(Favorites, ShowASmallPhotoWhereThereIsOne)
         ASSERT_TRUE(QDir(folder.path()).mkpath(QString::fromLatin1(each)));
     const QString table = QStringLiteral("/ru.lproj/Localizable.strings");
     ASSERT_TRUE(QFile::copy(shipped + table, folder.path() + table));
-    QFile photo(folder.filePath(QStringLiteral("images/a_icon.jpg")));
-    ASSERT_TRUE(photo.open(QIODevice::WriteOnly));
+    for (const char *each : {"images/a_icon.jpg", "secret_icon.jpg"}) {
+        QFile photo(folder.filePath(QString::fromLatin1(each)));
+        ASSERT_TRUE(photo.open(QIODevice::WriteOnly));
+    }
     TestPlatform::Options options;
     options.resourcesFolder = folder.path();
     RecipesFixture program(options);
-    for (const char *name : {"а", "б", "в"}) {
+    for (const char *name : {"а", "б", "в", "г"}) {
         Dish &dish = program.addDish(QString::fromUtf8(name), {});
         favorites().addDishToFavorite(dish);
     }
     program.dish("а").setDishID(QStringLiteral("a"));
     program.dish("б").setDishID(QStringLiteral("b"));
+    program.dish("г").setDishID(QStringLiteral("../secret"));
     FavoritesViewController screen;
     screen.loadViewIfNeeded();
     EXPECT_EQ(screen.table()->rowAt({0, 0}).image, QStringLiteral("a_icon.jpg"));
     EXPECT_TRUE(screen.table()->rowAt({1, 0}).image.isNull()) << "no such photo";
     EXPECT_TRUE(screen.table()->rowAt({2, 0}).image.isNull()) << "a dish of the user";
+    EXPECT_TRUE(screen.table()->rowAt({3, 0}).image.isNull()) << "no way out of the folder";
 }
 
 TEST(Favorites, TakeAsManyStatementsForAnyNumber)

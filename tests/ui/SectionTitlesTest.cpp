@@ -36,4 +36,21 @@ TEST(SectionTitlesTest, LeadsToTheHeadersAsTheTableChanges)
     EXPECT_EQ(titles.line(2), 4);
 }
 
+TEST(SectionTitlesTest, ShortensToWholeLetters)
+{
+    TableModel table;
+    SectionTitles titles;
+    titles.setTable(&table);
+    QStringList initials;
+    for (const auto &[title, initial] : {std::pair(u"Ёж", u"Ё"),
+                                         {u"🍲 суп", u"🍲"},
+                                         {u"🇫🇷 omelette", u"🇫🇷"},
+                                         {u"e\u0301clair", u"e\u0301"},
+                                         {u"", u""}}) {
+        table.insertSection(table.numberOfSections(), section(QString::fromUtf16(title), 1));
+        initials.append(QString::fromUtf16(initial));
+    }
+    EXPECT_EQ(titles.initials(), initials);
+}
+
 } // namespace kesto::test

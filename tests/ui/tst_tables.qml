@@ -261,6 +261,30 @@ Item {
             verify(row(0, 0).detail.startsWith("71.5"));
         }
 
+        function test_wheelsThatTurnCountWhenTheyGo_data() {
+            return [
+                { tag: "closed", go: () => table.selectRow(0, 0), heard: ["selected 0.0", "selected 0.0"] },
+                { tag: "covered", go: () => Samples.push(), heard: ["selected 0.0"] },
+            ];
+        }
+        function test_wheelsThatTurnCountWhenTheyGo(data) {
+            mouseClick(row(0, 0));
+            const wheels = row(0, 1);
+            tryVerify(() => wheels.height > 150);
+            const from = wheels.mapToItem(stage, wheels.width / 2 - 40, wheels.height / 2);
+            mousePress(stage, from.x, from.y);
+            for (let step = 1; step <= 10; ++step)
+                mouseMove(stage, from.x, from.y - step * 8, 40);
+            compare(table.heard, ["selected 0.0"]);
+            data.go();
+            const heard = table.heard.slice(); // the touch and the weight
+            mouseRelease(stage, from.x, from.y - 80);
+            tryVerify(() => list.interactive, 1000, "the table scrolls again");
+            compare(heard.length, data.heard.length + 1);
+            verify(/^7[1-4]\.5$/.test(heard[heard.length - 1]), heard.join());
+            compare(heard.slice(0, -1), data.heard);
+        }
+
         function test_nothingIsCutOff_data() {
             return [
                 { tag: "100 %", scale: 1, width: 390 },

@@ -95,6 +95,51 @@ Item {
             tryVerify(() => selected()[0] === 31);
         }
 
+        function test_theStandingRowCanBeChosen_data() {
+            return [
+                { tag: "touch", choose: () => mouseClick(wheels, wheels.width / 2 - 40, wheels.height / 2), count: 1 },
+                { tag: "Return", choose: () => keyClick(Qt.Key_Return), count: 1 },
+                { tag: "Enter", choose: () => keyClick(Qt.Key_Enter), count: 1 },
+                { tag: "typed", choose: () => [Qt.Key_7, Qt.Key_0].forEach(key => keyClick(key)), count: 2 },
+                { tag: "nothing", choose: () => picker.shouldSettle(), count: 0 },
+            ];
+        }
+        function test_theStandingRowCanBeChosen(data) {
+            data.choose();
+            tryCompare(spy, "count", data.count);
+            wait(50);
+            compare(spy.count, data.count);
+            compare(selected(), [30, 5]);
+        }
+
+        function test_nothingIsChosenBeyondTheEnd() {
+            keyClick(Qt.Key_Home);
+            spy.clear();
+            keyClick(Qt.Key_Up);
+            compare(spy.count, 0);
+        }
+
+        function test_aTurningWheelHasChosenWhenItGoes_data() {
+            return [
+                { tag: "closed", go: () => picker.shouldSettle() },
+                { tag: "destroyed", go: () => wheels.destroy() },
+            ];
+        }
+        function test_aTurningWheelHasChosenWhenItGoes(data) {
+            const x = wheels.width / 2 - 40;
+            const y = wheels.height / 2;
+            const row = wheels.height / 5;
+            mousePress(scene, x, y);
+            for (let step = 1; step <= 10; ++step)
+                mouseMove(scene, x, y - step * row * 0.24, 40);
+            compare(spy.count, 0);
+            data.go();
+            tryCompare(spy, "count", 1);
+            verify(selected()[0] >= 31 && selected()[0] <= 33, "row " + selected()[0]);
+            compare(selected()[1], 5);
+            mouseRelease(scene, x, y - row * 2.4);
+        }
+
         function test_dragSnapsToARow() {
             const x = wheels.width / 2 - 40;
             const row = wheels.height / 5;

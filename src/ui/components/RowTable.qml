@@ -218,18 +218,23 @@ TableBase {
             return to.y - list.contentY + (below ? to.height : 0) - 1;
         }
     }
-    SectionIndex {
+    Loader {
         anchors.right: parent.right
         height: parent.height
-        visible: root.showsIndex && list.contentHeight > list.height
-        table: root.controller.table
-        onChosen: line => list.positionViewAtIndex(line, ListView.Beginning)
+        active: root.showsIndex
+        visible: list.contentHeight > list.height
+        sourceComponent: SectionIndex {
+            table: root.controller.table
+            onChosen: line => list.positionViewAtIndex(line, ListView.Beginning)
+        }
     }
-    EmptyState {
+    Loader {
         anchors.centerIn: parent
         width: Math.min(parent.width - 2 * Tokens.huge, 320)
-        visible: list.count === 0 && (title.length > 0 || picture.length > 0)
-        picture: root.picture
-        title: root.emptyText
+        active: list.count === 0 && (root.emptyText.length > 0 || root.picture.length > 0)
+        sourceComponent: EmptyState {
+            picture: root.picture
+            title: root.emptyText
+        }
     }
 }

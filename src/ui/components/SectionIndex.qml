@@ -24,14 +24,14 @@ Item {
         width: parent.width
 
         Repeater {
-            model: sections.titles
+            model: sections.initials
 
             Label {
                 required property string modelData
 
                 width: parent.width
                 height: Math.min(implicitHeight, rail.height / Math.max(1, sections.titles.length))
-                text: modelData.charAt(0)
+                text: modelData
                 color: Tokens.colors.accentText
                 font.pixelSize: Tokens.textCaption
                 fontSizeMode: Text.VerticalFit

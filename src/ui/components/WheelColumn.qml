@@ -2,8 +2,9 @@ import QtQuick
 import Kesto
 
 /*!
-    A wheel of titles of which the middle one is chosen: by dragging, the mouse wheel, a touch on a neighbour, the arrow
-    keys, Page Up and Down, Home and End, or by typing how a title begins. A choice that is not taken turns back.
+    A wheel of titles of which the middle one is chosen: by dragging, the mouse wheel, a touch on it or on a neighbour,
+    the arrow keys, Page Up and Down, Home and End, Enter, or by typing how a title begins. The title that stands in the
+    middle may be chosen, too. A choice that is not taken turns back. One that still turns when it goes has chosen.
 */
 Item {
     id: column
@@ -30,17 +31,25 @@ Item {
         }
         return width;
     }
+    function nearest(row: int): int {
+        return Math.max(0, Math.min(titles.length - 1, row));
+    }
     function turn(row: int): void {
-        const wanted = Math.max(0, Math.min(titles.length - 1, row));
-        if (wanted === view.currentIndex)
-            return;
-        view.currentIndex = wanted;
+        if (nearest(row) !== view.currentIndex)
+            choose(row);
+    }
+    function choose(row: int): void {
+        view.currentIndex = nearest(row);
         settle();
     }
     function settle(): void {
-        if (view.currentIndex !== current && view.currentIndex >= 0)
+        if (view.currentIndex >= 0)
             chosen(view.currentIndex);
         follow();
+    }
+    function settleIfMoving(): void {
+        if (view.moving)
+            settle();
     }
     function follow(): void {
         if (current >= 0 && view.currentIndex !== current)
@@ -54,7 +63,7 @@ Item {
             typing.text = "";
             return false;
         }
-        turn(row);
+        choose(row);
         return true;
     }
 
@@ -64,11 +73,13 @@ Item {
     Accessible.role: Accessible.SpinBox
     Accessible.name: name.length > 0 ? name + " " + (titles[current] ?? "") : (titles[current] ?? "")
     Accessible.focusable: true
+    Accessible.onPressAction: choose(view.currentIndex)
     Accessible.onIncreaseAction: turn(view.currentIndex + 1)
     Accessible.onDecreaseAction: turn(view.currentIndex - 1)
 
     onCurrentChanged: if (!view.moving) follow()
     onTitlesChanged: follow()
+    Component.onDestruction: settleIfMoving()
 
     Keys.onPressed: event => {
         event.accepted = true;
@@ -79,6 +90,12 @@ Item {
         case Qt.Key_PageDown: turn(view.currentIndex + visibleRows); break;
         case Qt.Key_Home: turn(0); break;
         case Qt.Key_End: turn(titles.length - 1); break;
+        case Qt.Key_Return:
+        case Qt.Key_Enter:
+            if (!event.isAutoRepeat)
+                choose(view.currentIndex);
+            event.accepted = false; // it answers a dialog, too
+            break;
         default: event.accepted = event.text.trim().length > 0 && typed(event.text);
         }
     }
@@ -146,7 +163,7 @@ Item {
             TapHandler {
                 onTapped: {
                     column.forceActiveFocus(Qt.MouseFocusReason);
-                    column.turn(line.index);
+                    column.choose(line.index);
                 }
             }
         }

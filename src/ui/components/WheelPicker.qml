@@ -26,6 +26,21 @@ FocusScope {
         anchors.horizontalCenter: parent.horizontalCenter
         spacing: Tokens.unit
 
+        PointHandler {
+            id: finger
+
+            property Item around: null
+
+            onActiveChanged: if (active) around = wheels.scrolledIn()
+        }
+        // What the wheels are in would take a drag for its own.
+        Binding {
+            target: finger.around
+            property: "interactive"
+            value: false
+            when: finger.active && finger.around !== null
+            restoreMode: Binding.RestoreBindingOrValue
+        }
         Repeater {
             id: repeater
 
@@ -42,13 +57,30 @@ FocusScope {
                 name: wheels.name
                 titles: modelData ? modelData.titles : []
                 current: modelData ? modelData.selectedRow : -1
-                onChosen: row => modelData.select(row)
+                onChosen: row => {
+                    if (modelData)
+                        modelData.select(row);
+                }
                 Keys.onLeftPressed: event => wheels.step(-1, event)
                 Keys.onRightPressed: event => wheels.step(1, event)
+
+                Connections {
+                    target: wheels.picker
+
+                    function onShouldSettle(): void {
+                        column.settleIfMoving();
+                    }
+                }
             }
         }
     }
 
+    function scrolledIn(): Item {
+        let item = wheels.parent;
+        while (item && !(item instanceof Flickable))
+            item = item.parent;
+        return item;
+    }
     function step(by: int, event: var): void {
         for (let i = 0; i < repeater.count; ++i) {
             if (!repeater.itemAt(i).activeFocus)

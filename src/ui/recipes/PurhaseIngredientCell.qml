@@ -7,7 +7,7 @@ FocusScope {
 
     required property TableLine line
     /*! The line that the field was entered for, and what it had: rows may change their places meanwhile. */
-    property var edited
+    property string edited
     property string before
     readonly property color ink: line.struckThrough ? Tokens.colors.textDisabled : Tokens.colors.text
 
@@ -66,7 +66,7 @@ FocusScope {
         anchors.rightMargin: Tokens.unit
         anchors.verticalCenter: parent.verticalCenter
         width: Math.max(64, Math.min(implicitWidth, cell.width * 0.36))
-        value: cell.edited !== undefined ? cell.before : cell.line.text
+        value: cell.edited.length > 0 ? cell.before : cell.line.text
         name: Texts.localized("Quantity") + ": " + cell.line.title
         placeholderText: cell.line.placeholder
         horizontalAlignment: TextInput.AlignHCenter
@@ -75,7 +75,13 @@ FocusScope {
         activeFocusOnTab: cell.line.ListView.isCurrentItem || activeFocus
         // A long quantity is read from its beginning.
         onTextChanged: if (!activeFocus) cursorPosition = 0
-        onActiveFocusChanged: if (!activeFocus) cursorPosition = 0
+        onActiveFocusChanged: {
+            if (activeFocus)
+                return;
+            cursorPosition = 0;
+            commit();
+            cell.edited = "";
+        }
         onBegan: {
             cell.before = cell.line.text;
             cell.edited = cell.line.value;
@@ -83,10 +89,10 @@ FocusScope {
         }
         onCommitted: text => {
             (cell.line.controller as CartViewController).endEditingCount(cell.edited, text);
-            cell.edited = undefined;
+            cell.edited = "";
         }
         onFinished: {
-            cell.edited = undefined;
+            cell.edited = "";
             cell.line.table.fieldLeft();
         }
     }

@@ -78,12 +78,10 @@ FocusScope {
         size: row.pictureSize
         color: !row.available ? Tokens.colors.textDisabled : row.destructive ? Tokens.colors.destructive : Tokens.colors.icon
 
-        Rectangle {
+        Loader {
             anchors.fill: parent
-            visible: row.framed && icon.visible
-            color: "transparent"
-            border.width: Tokens.hairline
-            border.color: Tokens.colors.photoLine
+            active: row.framed
+            sourceComponent: frame
         }
     }
     Item {
@@ -123,14 +121,8 @@ FocusScope {
             Loader {
                 width: parent.width
                 visible: active
-                active: row.subtitle.length > 0
-                sourceComponent: subtitleText
-            }
-            Loader {
-                width: parent.width
-                visible: active
-                active: row.badges.length > 0
-                sourceComponent: badgeFlow
+                active: row.subtitle.length > 0 || row.badges.length > 0
+                sourceComponent: below
             }
         }
         Row {
@@ -173,31 +165,35 @@ FocusScope {
         sourceComponent: inset ? touchable : sign
     }
     Component {
-        id: subtitleText
+        id: below
 
-        Label {
-            text: row.subtitle
-            color: row.quiet
-            font.pixelSize: Tokens.textSmall
-            font.strikeout: row.struckThrough
-        }
-    }
-    Component {
-        id: badgeFlow
+        Column {
+            spacing: texts.spacing
 
-        Flow {
-            topPadding: Tokens.half
-            spacing: Tokens.half
+            Label {
+                width: parent.width
+                visible: text.length > 0
+                text: row.subtitle
+                color: row.quiet
+                font.pixelSize: Tokens.textSmall
+                font.strikeout: row.struckThrough
+            }
+            Flow {
+                width: parent.width
+                visible: row.badges.length > 0
+                topPadding: Tokens.half
+                spacing: Tokens.half
 
-            Repeater {
-                model: row.badges
+                Repeater {
+                    model: row.badges
 
-                Badge {
-                    required property var modelData
+                    Badge {
+                        required property var modelData
 
-                    width: Math.min(implicitWidth, texts.width)
-                    text: modelData.text
-                    tone: modelData.color
+                        width: Math.min(implicitWidth, texts.width)
+                        text: modelData.text
+                        tone: modelData.color
+                    }
                 }
             }
         }
@@ -226,8 +222,19 @@ FocusScope {
             onClicked: row.accessoryTouched()
         }
     }
-    FocusRing {
+    Component {
+        id: frame
+
+        Rectangle {
+            color: "transparent"
+            border.width: Tokens.hairline
+            border.color: Tokens.colors.photoLine
+        }
+    }
+    Loader {
+        anchors.fill: parent
         anchors.margins: 2
-        shown: row.current
+        active: row.current
+        sourceComponent: FocusRing { shown: true }
     }
 }

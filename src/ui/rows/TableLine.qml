@@ -47,7 +47,14 @@ FocusScope {
     readonly property bool editing: controller.editing
     readonly property bool current: isRow && ListView.isCurrentItem && table.keyboardShown
     readonly property Item content: loader.item as Item
-    readonly property alias deleteShown: swipe.open
+    property bool deleteShown: false
+    /*! What the row's tools take from its width at its sides. */
+    property real before: 0
+    property real after: 0
+    /*! The row's room, and in it what slides aside for the button that deletes. */
+    readonly property alias room: swipe
+    readonly property alias sliding: loader
+    property bool complete: false
     /*! Lines keep their place and change their nature when a section is replaced. */
     readonly property string source: {
         if (!isRow)
@@ -108,11 +115,11 @@ FocusScope {
             controller.deleteRowByUser(section, row);
     }
     function closeDelete(): void {
-        swipe.open = false;
+        deleteShown = false;
     }
     function bareDelete(): void {
         if (canDelete)
-            swipe.open = true;
+            deleteShown = true;
     }
 
     width: ListView.view ? ListView.view.width : 320
@@ -122,32 +129,14 @@ FocusScope {
     z: lift !== 0 ? 2 : 0
     transform: Translate { y: line.lift }
 
-    // Most tables are never edited.
-    Loader {
-        id: minus
-
-        x: line.table.inset
-        anchors.verticalCenter: swipe.verticalCenter
-        visible: active
-        active: line.isRow && line.editing && line.canDelete
-        sourceComponent: IconButton {
-            picture: "minus_circle"
-            color: Tokens.colors.destructive
-            name: Texts.localized("Delete") + " " + line.title
-            activeFocusOnTab: false
-            onClicked: swipe.open = !swipe.open
-        }
-    }
-    SwipeArea {
+    Item {
         id: swipe
 
         y: line.gapAbove
-        x: line.table.inset + (minus.visible ? minus.width : 0)
-        width: line.width - x - line.table.inset - (handle.visible ? handle.width : 0)
+        x: line.table.inset + line.before
+        width: line.width - x - line.table.inset - line.after
         height: loader.implicitHeight
-        allowed: line.isRow && line.canDelete
-        onOpened: line.table.deleteShown(line)
-        onDeleteRequested: line.remove()
+        clip: loader.x < 0
 
         Loader {
             id: loader
@@ -155,20 +144,20 @@ FocusScope {
             width: parent.width
         }
     }
+    // Most tables are never edited: their rows do without what edits them, and its file is not read.
     Loader {
-        id: handle
+        id: tools
 
-        anchors.right: parent.right
-        anchors.rightMargin: line.table.inset
-        anchors.verticalCenter: swipe.verticalCenter
-        visible: active
-        active: line.isRow && line.editing && line.canMove
-        sourceComponent: ReorderHandle {
-            name: line.title
-            onLifted: line.table.lifted(line)
-            onCarried: by => line.table.carried(line, by)
-            onDropped: line.table.dropped(line)
-            onStepped: by => line.table.stepped(line, by)
+        readonly property bool needed: line.isRow && (line.canDelete || line.editing && line.canMove)
+
+        anchors.fill: parent
+        onNeededChanged: {
+            if (needed) {
+                setSource("LineTools.qml", { line: line });
+            } else {
+                sourceComponent = undefined;
+                line.before = line.after = loader.x = 0;
+            }
         }
     }
     function draw(): void {
@@ -182,6 +171,11 @@ FocusScope {
     }
 
     onActiveFocusChanged: if (!activeFocus) loader.focus = false
-    onSourceChanged: draw()
-    Component.onCompleted: draw()
+    onCanDeleteChanged: if (!canDelete) deleteShown = false
+    onDeleteShownChanged: if (deleteShown) table.deleteShown(line)
+    onSourceChanged: if (complete) draw()
+    Component.onCompleted: {
+        complete = true;
+        draw();
+    }
 }

@@ -83,7 +83,7 @@ FocusScope {
             anchors.fill: parent
             needed: shell.popped
             file: "PopoverLayer.qml"
-            content: ({ appWindow: shell.appWindow, root: screens })
+            content: ({ appWindow: shell.appWindow, root: behind })
         }
     }
     Later {
