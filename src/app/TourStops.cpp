@@ -3,6 +3,7 @@
 #include "app/RootViewConrollerViewController.h"
 #include "app/TourGuide.h"
 #include "app/TourStopsCart.h"
+#include "app/TourStopsMainJob.h"
 #include "app/TourStopsPlan.h"
 #include "app/TourStopsRecipes.h"
 #include "components/BKPasscodeLockScreenManager.h"
@@ -34,6 +35,12 @@ QList<TourStop> tourStops()
     QList<TourStop> stops{
         {QStringLiteral("start"), [](TourGuide &) {}},
         {QStringLiteral("menu"), [](TourGuide &guide) { guide.openMenu(); }},
+        {QStringLiteral("calendar-not-yet"), row(RootViewConrollerViewController::calendarRow)},
+        {QStringLiteral("no-favourites"), row(RootViewConrollerViewController::favoritesRow)},
+        {QStringLiteral("empty-shopping-list"), row(8)},
+    };
+    stops += mainJobTourStops();
+    stops += QList<TourStop>{
         {QStringLiteral("about-diet"), row(0)},
         {QStringLiteral("phases"), row(1)},
     };
@@ -43,16 +50,12 @@ QList<TourStop> tourStops()
     stops += calculatorTourStops();
     stops += QList<TourStop>{
         {QStringLiteral("graph"), row(5)},
-        {QStringLiteral("calendar-not-yet"), row(6)},
     };
     stops += calendarTourStops();
     stops += QList<TourStop>{
         {QStringLiteral("journal"), row(7)},
     };
     stops += cartTourStops();
-    stops += QList<TourStop>{
-        {QStringLiteral("no-favourites"), row(9)},
-    };
     stops += favouriteTourStops();
     stops += QList<TourStop>{
         {QStringLiteral("send-recipe"), row(10)},
