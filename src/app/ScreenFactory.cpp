@@ -41,9 +41,14 @@ Screen makeDay(const QDateTime &date, int period, DietDayDetailViewControllerDel
     return std::make_unique<DietDayDetailViewController>(date, period, delegate);
 }
 
+Screen makeJornal(const QDateTime &)
+{
+    return std::make_unique<PlainViewController>(localized(QStringLiteral("Дневник Диеты")), QStringLiteral("7.png"));
+}
+
 Screen makeCalendar(RootViewConrollerViewController &)
 {
-    return std::make_unique<CalendarViewController>(CalendarScreens{.jornal = {}, .day = makeDay});
+    return std::make_unique<CalendarViewController>(CalendarScreens{.jornal = makeJornal, .day = makeDay});
 }
 
 Screen makeCart(RootViewConrollerViewController &) { return std::make_unique<CartViewController>(); }

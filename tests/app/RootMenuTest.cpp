@@ -2,6 +2,7 @@
 
 #include "components/NavigationController.h"
 #include "components/SideMenuContainer.h"
+#include "plan/CalendarViewController.h"
 
 namespace kesto::test
 {
@@ -202,6 +203,21 @@ TEST_F(RootMenuTest, InPortraitAButtonOpensTheMenuOfATablet)
     turnEventLoop(); // the screens that were replaced end, the button does not
     button()->trigger();
     EXPECT_TRUE(split().isMenuPopoverOpen());
+}
+
+TEST_F(RootMenuTest, TheCalendarLeadsToTheDayAndItsJournal)
+{
+    startDiet();
+    platform_.clock().set(platform_.date(2024, 3, 7, 12));
+    launch();
+    auto *calendar = qobject_cast<CalendarViewController *>(mainScreen());
+    ASSERT_NE(calendar, nullptr);
+    const NavigationController *stack = calendar->navigationController();
+    calendar->footer()->openJornal();
+    EXPECT_EQ(stack->topViewController()->title(), QStringLiteral("Дневник диеты"));
+    stack->topViewController()->close();
+    calendar->openDaySettings();
+    EXPECT_EQ(stack->topViewController()->title(), QStringLiteral("07 марта"));
 }
 
 TEST_F(RootMenuTest, OtherScreensReachTheMainContentThroughTheShell)
