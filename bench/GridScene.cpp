@@ -13,6 +13,7 @@
 #include "recipes/DishesViewController.h"
 #include "store/CoreDataManager.h"
 #include "ui/Appearance.h"
+#include "ui/EngineObject.h"
 #include "ui/UserInterface.h"
 
 #include <QHash>
@@ -89,7 +90,7 @@ GridScene::GridScene(const QSize &size)
     giveAllDishesTo(0);
     parts_->controller.emplace(0);
     UserInterface::prepare(parts_->engine, parts_->platform);
-    parts_->appearance.giveTo(parts_->engine);
+    giveTo(parts_->engine, parts_->appearance);
     parts_->appearance.setMotion(false);
 
     QQmlComponent component(&parts_->engine, QUrl(QStringLiteral("qrc:/qt/qml/Kesto/recipes/DishesView.qml")));

@@ -1,9 +1,10 @@
 #include "Appearance.h"
 
+#include "EngineObject.h"
+
 #include <QEvent>
 #include <QFont>
 #include <QGuiApplication>
-#include <QQmlEngine>
 #include <QScreen>
 
 #include <algorithm>
@@ -13,8 +14,6 @@ namespace kesto
 
 namespace
 {
-
-constexpr const char *given = "kestoAppearance";
 
 // What a desktop begins with: 11 points at 96 dots an inch.
 constexpr qreal usualPoints = 11;
@@ -30,18 +29,7 @@ Appearance::Appearance(QObject *parent)
 {
 }
 
-Appearance *Appearance::create(QQmlEngine *engine, QJSEngine *)
-{
-    if (auto *own = engine->property(given).value<Appearance *>())
-        return own;
-    return new Appearance(nullptr);
-}
-
-void Appearance::giveTo(QQmlEngine &engine)
-{
-    QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
-    engine.setProperty(given, QVariant::fromValue(this));
-}
+Appearance *Appearance::create(QQmlEngine *engine, QJSEngine *) { return objectOf<Appearance>(*engine); }
 
 void Appearance::followSystem()
 {

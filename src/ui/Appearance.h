@@ -28,8 +28,6 @@ public:
     explicit Appearance(QObject *parent); // no default: QML would make its own instead of asking create()
     /// The one that the engine was given, otherwise a new one.
     static Appearance *create(QQmlEngine *engine, QJSEngine *scriptEngine);
-    /// Gives an engine its one before it loads anything; this outlives the engine's objects.
-    void giveTo(QQmlEngine &engine);
 
     /// The text size that the person chose for the whole system, as its font tells it.
     void followSystem();

@@ -1,5 +1,6 @@
 #include "UserInterface.h"
 
+#include "EngineObject.h"
 #include "ImageProvider.h"
 
 #include "components/AlertCenter.h"
@@ -26,9 +27,11 @@ const QString folder = QStringLiteral("qrc:/qt/qml/Kesto/");
 UserInterface::UserInterface(Platform &platform)
     : platform_(platform)
     , appearance_(nullptr)
+    , firstFrame_(nullptr)
 {
     prepare(engine_, platform);
-    appearance_.giveTo(engine_);
+    giveTo(engine_, appearance_);
+    giveTo(engine_, firstFrame_);
     QObject::connect(&engine_, &QQmlEngine::warnings, [](const QList<QQmlError> &warnings) {
         for (const auto &warning : warnings)
             log("interface: %@", warning.toString());
@@ -61,9 +64,11 @@ bool UserInterface::load()
         {{QStringLiteral("appWindow"), QVariant::fromValue(&platform_.shared<Window>())},
          {QStringLiteral("alertCenter"), QVariant::fromValue(&platform_.shared<AlertCenter>())},
          {QStringLiteral("progress"), QVariant::fromValue(&platform_.shared<ProgressIndicator>())}});
+    firstFrame_.await();
     engine_.load(folder + QStringLiteral("Main.qml"));
     if (window() == nullptr)
         return false;
+    firstFrame_.follow(*window());
     window()->installEventFilter(&appearance_);
     return true;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/Appearance.h"
+#include "ui/FirstFrame.h"
 
 #include <QQmlApplicationEngine>
 #include <QQmlComponent>
@@ -40,6 +41,7 @@ private:
 
     Platform &platform_;
     Appearance appearance_;
+    FirstFrame firstFrame_;
     QQmlApplicationEngine engine_;
     std::vector<std::unique_ptr<QQmlComponent>> readAhead_;
 };

@@ -1,4 +1,6 @@
+#include "components/Window.h"
 #include "app/WindowFixture.h"
+#include "components/SideMenuContainer.h"
 #include "model/Dish.h"
 #include "platform/Platform.h"
 #include "platform/UserDefaults.h"
@@ -8,7 +10,12 @@
 
 #include <gtest/gtest.h>
 
+#include <QQmlContext>
+#include <QQmlProperty>
+#include <QQuickItem>
 #include <QQuickWindow>
+#include <QSignalSpy>
+#include <QTest>
 
 #include <algorithm>
 
@@ -23,6 +30,35 @@ using WindowTest = WindowFixture;
 const QString preparing = QStringLiteral("Готовим базу рецептов…");
 const QString calculator = QStringLiteral("Калькулятор веса по Кесто");
 const QString menuTitle = QStringLiteral("Диета Кесто");
+
+TEST_F(WindowTest, FirstFrameShowsWhatIsInFrontAndTheNextTheRest)
+{
+    prepare({});
+    for (const bool menuOpen : {false, true}) {
+        SCOPED_TRACE(menuOpen);
+        start(Device::Phone, QSize(390, 844));
+        qobject_cast<SideMenuContainer *>(program_->window().rootViewController())->setMenuOpen(menuOpen);
+        const auto tables = [&](bool drawn) {
+            QStringList found;
+            (void)item(*program_->view().contentItem(), [&](const QQuickItem &each) {
+                if (each.objectName() == QStringLiteral("list") && each.property("count").toInt() > 0 &&
+                    (!drawn || !each.childItems().first()->childItems().isEmpty()))
+                    found.append(
+                        QQmlProperty::read(&each, QStringLiteral("Accessible.name"), qmlContext(&each)).toString());
+                return false;
+            });
+            return found.join(u'|').toStdString();
+        };
+        QString first;
+        QObject::connect(
+            &program_->view(), &QQuickWindow::frameSwapped, &program_->view(),
+            [&] { first = QString::fromStdString(tables(true)); }, Qt::SingleShotConnection);
+        QSignalSpy frames(&program_->view(), &QQuickWindow::frameSwapped);
+        ASSERT_TRUE(frames.wait());
+        EXPECT_EQ(first.toStdString(), (menuOpen ? menuTitle : calculator).toStdString());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return tables(false) == (calculator + u'|' + menuTitle).toStdString(); }));
+    }
+}
 
 TEST_F(WindowTest, FirstStartToTheMenuAndBackByPointer)
 {

@@ -4,6 +4,8 @@ import Kesto
 /*!
     A side panel and the main content. Docked, both stand side by side; otherwise the panel comes in from the left over the
     content: by \a open, or a finger from the left edge; it goes by a touch beside it, a finger to the left, or Escape.
+
+    At the start what is in front comes with the window's first frame, and what is behind it with the next.
 */
 FocusScope {
     id: drawer
@@ -48,7 +50,7 @@ FocusScope {
         height: drawer.height
         focus: true
         enabled: drawer.docked || !drawer.open
-        controller: drawer.mainController
+        controller: FirstFrame.over || FirstFrame.begun && (drawer.docked || !drawer.open) ? drawer.mainController : null
     }
     Rectangle {
         anchors.fill: parent
@@ -72,7 +74,7 @@ FocusScope {
         height: drawer.height
         visible: x > -width
         enabled: drawer.docked || drawer.open
-        controller: drawer.panelController
+        controller: FirstFrame.over || FirstFrame.begun && (drawer.docked || drawer.open) ? drawer.panelController : null
         Accessible.role: Accessible.Pane
         Accessible.name: drawer.panelName
         Keys.onEscapePressed: event => {
@@ -82,7 +84,7 @@ FocusScope {
         }
 
         Behavior on x {
-            enabled: !drag.active && !edge.active && !drawer.docked
+            enabled: FirstFrame.over && !drag.active && !edge.active && !drawer.docked
             NumberAnimation { duration: Tokens.normal; easing.type: Easing.OutCubic }
         }
         Rectangle {
