@@ -91,7 +91,7 @@ TEST_F(RecipesWindowTest, BrowsesTheGridByKeys)
     EXPECT_TRUE(user.waitsToSee(QAccessible::ListItem, nameOf(opened))) << user.view();
 
     // The phases, by touch.
-    ASSERT_TRUE(user.touches(QAccessible::Button, QStringLiteral("Атака"))) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::PageTab, QStringLiteral("Атака"))) << user.view();
     same.updateToPeriod(1);
     ASSERT_GT(tiles.size(), 0);
     EXPECT_TRUE(user.waitsToSee(QAccessible::ListItem, nameOf(tiles[0]))) << user.view();

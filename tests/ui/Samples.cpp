@@ -6,6 +6,7 @@
 #include "store/CoreDataManager.h"
 #include "store/Keys.h"
 
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QKeyEvent>
 
@@ -169,6 +170,12 @@ void Samples::askDate(const QDateTime &date)
     show({.title = QStringLiteral("When"),
           .buttons = {{no, Alert::Role::Cancel}, {yes}},
           .dateField = Alert::DateField{.date = date}});
+}
+
+void Samples::pressAccessibly(QObject *item) const
+{
+    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(item);
+    accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
 }
 
 void Samples::repeatKey(QObject *window, int key) const

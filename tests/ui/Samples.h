@@ -60,6 +60,8 @@ public:
     Q_INVOKABLE void askDate(const QDateTime &date);
     /// What a held key sends to a window again and again.
     Q_INVOKABLE void repeatKey(QObject *window, int key) const;
+    /// As a screen reader presses it.
+    Q_INVOKABLE void pressAccessibly(QObject *item) const;
     Q_INVOKABLE kesto::Picker *picker(const QList<QStringList> &titles, const QList<int> &selected);
 
 Q_SIGNALS:

@@ -81,13 +81,12 @@ FocusScope {
                 readonly property bool cancels: modelData === sheet.cancelButtonIndex
 
                 width: column.width
-                implicitHeight: Math.max(Tokens.rowHeight + Tokens.unit, contentItem.implicitHeight + 2 * Tokens.unit)
-                topInset: 0
+                height: Math.max(Tokens.rowHeight + Tokens.unit, implicitHeight)
                 text: sheet.buttonTitles[modelData]
                 destructive: modelData === sheet.destructiveButtonIndex
                 onClicked: sheet.answered(modelData)
-                Keys.onUpPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
-                Keys.onDownPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+                Keys.onUpPressed: passFocus(false)
+                Keys.onDownPressed: passFocus(true)
 
                 Rectangle {
                     width: parent.width

@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kesto
 
 /*! A button of a bar: a picture or a title. */
-T.AbstractButton {
+Pressable {
     id: control
 
     property string picture
@@ -14,19 +13,21 @@ T.AbstractButton {
     property bool back: false
     property color ink: Tokens.colors.barButton
 
-    implicitWidth: Math.max(Tokens.rowHeight, contentItem.implicitWidth + 2 * Tokens.unit)
-    implicitHeight: Math.max(Tokens.rowHeight, contentItem.implicitHeight)
-    leftPadding: Tokens.unit
-    rightPadding: Tokens.unit
-    focusPolicy: Qt.StrongFocus
+    implicitWidth: Math.max(Tokens.rowHeight, content.implicitWidth + 2 * Tokens.unit)
+    implicitHeight: Math.max(Tokens.rowHeight, content.implicitHeight)
     opacity: !enabled ? 0.45 : down && pressedPicture.length === 0 ? 0.5 : 1
-
-    Accessible.role: Accessible.Button
     Accessible.name: name
-    Keys.onReturnPressed: control.clicked()
-    Keys.onEnterPressed: control.clicked()
 
-    contentItem: ButtonContent {
+    FocusRing {
+        anchors.margins: 2
+        shown: control.visualFocus
+    }
+    ButtonContent {
+        id: content
+
+        x: Tokens.unit
+        width: control.width - 2 * x
+        height: control.height
         picture: control.back ? "chevron_left" : control.down && control.pressedPicture.length > 0 ? control.pressedPicture : control.picture
         text: control.title
         ink: control.ink
@@ -36,11 +37,5 @@ T.AbstractButton {
         label.minimumPixelSize: 12
         label.wrapMode: Text.NoWrap
         label.elide: Text.ElideRight
-    }
-    background: Item {
-        FocusRing {
-            anchors.margins: 2
-            shown: control.visualFocus
-        }
     }
 }

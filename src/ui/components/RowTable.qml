@@ -156,7 +156,6 @@ TableBase {
         currentIndex: -1
         cacheBuffer: root.carriedLine ? 100000 : 400 // a row that is carried away must not be let go
         boundsBehavior: Flickable.StopAtBounds
-        ScrollBar.vertical: ScrollBar {}
         Accessible.role: Accessible.List
         Accessible.name: root.controller.title
 
@@ -192,6 +191,8 @@ TableBase {
         move: Transition { NumberAnimation { properties: "y"; duration: Tokens.normal } }
         displaced: Transition { NumberAnimation { properties: "y"; duration: Tokens.normal; easing.type: Easing.OutCubic } }
         add: Transition { NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Tokens.normal } }
+
+        ScrollBar { view: list }
     }
     function page(by: int): void {
         for (let i = 0; i < 8 && go(by); ++i);

@@ -34,8 +34,8 @@ Rectangle {
                 text: modelData
                 chosen: index === scopes.current
                 onClicked: scopes.chosen(index)
-                Keys.onLeftPressed: if (index > 0) nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
-                Keys.onRightPressed: if (index + 1 < scopes.titles.length) nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+                Keys.onLeftPressed: if (index > 0) passFocus(false)
+                Keys.onRightPressed: if (index + 1 < scopes.titles.length) passFocus(true)
             }
         }
     }

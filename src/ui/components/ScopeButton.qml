@@ -1,23 +1,30 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kesto
 
-T.AbstractButton {
+Pressable {
     id: control
 
+    property string text
     property bool chosen: false
 
     implicitHeight: Tokens.rowHeight
-    leftPadding: Tokens.unit
-    rightPadding: Tokens.unit
-    focusPolicy: Qt.StrongFocus
     Accessible.role: Accessible.PageTab
     Accessible.name: text
     Accessible.selected: chosen
-    Keys.onReturnPressed: control.clicked()
-    Keys.onEnterPressed: control.clicked()
 
-    contentItem: Label {
+    Rectangle {
+        anchors.fill: parent
+        anchors.margins: 3
+        radius: Tokens.smallRadius
+        color: control.chosen ? Tokens.colors.surface : "transparent"
+        opacity: control.down ? 0.7 : 1
+
+        FocusRing { shown: control.visualFocus }
+    }
+    Label {
+        x: Tokens.unit
+        width: control.width - 2 * x
+        height: control.height
         text: control.text
         color: control.chosen ? Tokens.colors.accentText : Tokens.colors.barButton
         font.weight: control.chosen ? Font.Medium : Font.Normal
@@ -27,14 +34,5 @@ T.AbstractButton {
         wrapMode: Text.NoWrap
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
-    }
-    background: Rectangle {
-        anchors.fill: parent
-        anchors.margins: 3
-        radius: Tokens.smallRadius
-        color: control.chosen ? Tokens.colors.surface : "transparent"
-        opacity: control.down ? 0.7 : 1
-
-        FocusRing { shown: control.visualFocus }
     }
 }

@@ -29,6 +29,8 @@ FocusScope {
         rightPadding: clear.visible ? clear.width : Tokens.gap
         placeholderText: Texts.localized("Search")
         value: search.text
+        fill: Tokens.colors.surface
+        frame: Tokens.hairline
         inputMethodHints: Qt.ImhNoPredictiveText
         onTextEdited: search.edited(text)
         onFinished: search.finished()
@@ -38,13 +40,6 @@ FocusScope {
                 return;
             }
             search.clear();
-        }
-
-        background: Rectangle {
-            radius: Tokens.smallRadius
-            color: Tokens.colors.surface
-            border.width: field.activeFocus ? Tokens.focusWidth : Tokens.hairline
-            border.color: field.activeFocus ? Tokens.colors.focus : Tokens.colors.separator
         }
         Icon {
             x: Tokens.gap

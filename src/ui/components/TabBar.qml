@@ -36,8 +36,8 @@ Rectangle {
                 picture: modelData.tabBarImage
                 chosen: index === bar.controller.selectedIndex
                 onClicked: bar.controller.selectedIndex = index
-                Keys.onLeftPressed: if (index > 0) nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
-                Keys.onRightPressed: if (index + 1 < repeater.count) nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+                Keys.onLeftPressed: if (index > 0) passFocus(false)
+                Keys.onRightPressed: if (index + 1 < repeater.count) passFocus(true)
             }
         }
     }

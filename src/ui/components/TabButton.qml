@@ -1,26 +1,29 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kesto
 
-T.AbstractButton {
+Pressable {
     id: control
 
+    property string text
     property string picture
     property bool chosen: false
     readonly property color ink: chosen ? Tokens.colors.tabTitleChosen : Tokens.colors.tabTitle
 
-    implicitHeight: contentItem.implicitHeight + 2 * Tokens.half
-    topPadding: Tokens.half
-    bottomPadding: Tokens.half
-    focusPolicy: Qt.StrongFocus
+    implicitHeight: content.implicitHeight + 2 * content.y
     opacity: down ? 0.6 : 1
     Accessible.role: Accessible.PageTab
     Accessible.name: text
     Accessible.selected: chosen
-    Keys.onReturnPressed: control.clicked()
-    Keys.onEnterPressed: control.clicked()
 
-    contentItem: Column {
+    FocusRing {
+        anchors.margins: 2
+        shown: control.visualFocus
+    }
+    Column {
+        id: content
+
+        y: Tokens.half
+        width: control.width
         spacing: 2
 
         Icon {
@@ -36,12 +39,6 @@ T.AbstractButton {
             font.weight: control.chosen ? Font.Medium : Font.Normal
             lineHeight: 0.9
             horizontalAlignment: Text.AlignHCenter
-        }
-    }
-    background: Item {
-        FocusRing {
-            anchors.margins: 2
-            shown: control.visualFocus
         }
     }
 }

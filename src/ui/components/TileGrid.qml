@@ -34,7 +34,6 @@ GridView {
     reuseItems: true
     cacheBuffer: 400
     currentIndex: -1
-    ScrollBar.vertical: ScrollBar {}
     Accessible.role: Accessible.List
 
     function goToTop(): void {
@@ -80,4 +79,6 @@ GridView {
         default: event.accepted = false;
         }
     }
+
+    ScrollBar { view: grid }
 }

@@ -22,8 +22,8 @@ FocusScope {
         contentHeight: content.height + 2 * Tokens.gap
         flickableDirection: Flickable.VerticalFlick
         boundsBehavior: Flickable.StopAtBounds
-        ScrollBar.vertical: ScrollBar {}
 
+        ScrollBar { view: page }
         Grid {
             id: content
 

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kesto
 
 /*! Four buttons that choose the phases a dish fits. */
@@ -11,7 +10,7 @@ Row {
     Repeater {
         model: buttons.selector
 
-        T.AbstractButton {
+        Pressable {
             id: button
 
             required property int tag
@@ -22,17 +21,19 @@ Row {
             required enabled
 
             width: buttons.width / 4
-            implicitHeight: Math.max(Tokens.rowHeight, contentItem.implicitHeight + Tokens.unit)
-            focusPolicy: Qt.StrongFocus
+            implicitHeight: Math.max(Tokens.rowHeight, content.implicitHeight + Tokens.unit)
             Accessible.role: Accessible.CheckBox
             Accessible.name: title
             Accessible.checkable: true
             Accessible.checked: selected
+            Accessible.onToggleAction: if (enabled) clicked()
             onClicked: buttons.selector.buttonTouched(tag)
-            Keys.onReturnPressed: button.clicked()
-            Keys.onEnterPressed: button.clicked()
 
-            contentItem: Column {
+            FocusRing { shown: button.visualFocus }
+            Column {
+                id: content
+
+                width: button.width
                 spacing: 2
 
                 Icon {
@@ -47,9 +48,6 @@ Row {
                     horizontalAlignment: Text.AlignHCenter
                     color: button.selected ? Tokens.colors.text : Tokens.colors.textQuiet
                 }
-            }
-            background: Item {
-                FocusRing { shown: button.visualFocus }
             }
         }
     }

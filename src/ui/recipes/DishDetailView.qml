@@ -21,7 +21,6 @@ FocusScope {
         contentHeight: content.height + 2 * Tokens.margin
         flickableDirection: Flickable.VerticalFlick
         boundsBehavior: Flickable.StopAtBounds
-        ScrollBar.vertical: ScrollBar {}
         Accessible.role: Accessible.Document
         Accessible.name: view.controller.name
         Keys.onPressed: event => {
@@ -38,6 +37,7 @@ FocusScope {
             event.accepted = true;
         }
 
+        ScrollBar { view: page }
         Column {
             id: content
 

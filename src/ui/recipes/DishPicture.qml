@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kesto
 
 /*! The photo of a dish, to be touched; without one a quiet strip with the sign of its category. */
@@ -28,7 +27,7 @@ Item {
         size: Tokens.largeIcon
         color: Tokens.colors.accent
     }
-    T.AbstractButton {
+    Pressable {
         id: touch
 
         objectName: "dish/image"
@@ -36,21 +35,16 @@ Item {
         anchors.margins: Tokens.unit
         anchors.bottomMargin: 0
         visible: head.photo.length > 0
-        focusPolicy: Qt.StrongFocus
         opacity: down ? 0.8 : 1
-        Accessible.role: Accessible.Button
         Accessible.name: head.name
         onClicked: head.touched()
-        Keys.onReturnPressed: head.touched()
-        Keys.onEnterPressed: head.touched()
 
-        contentItem: Image {
+        FocusRing { shown: touch.visualFocus }
+        Image {
+            anchors.fill: parent
             source: head.photo.length > 0 ? "image://kesto/" + encodeURIComponent(head.photo) : ""
             fillMode: Image.PreserveAspectCrop
             Accessible.ignored: true
-        }
-        background: Item {
-            FocusRing { shown: touch.visualFocus }
         }
     }
 }

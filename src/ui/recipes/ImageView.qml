@@ -39,8 +39,6 @@ FocusScope {
         contentWidth: width * view.zoom
         contentHeight: height * view.zoom
         boundsBehavior: Flickable.StopAtBounds
-        ScrollBar.vertical: ScrollBar {}
-        ScrollBar.horizontal: ScrollBar {}
         Accessible.role: Accessible.Graphic
         Accessible.name: view.controller.title
         Keys.onPressed: event => {
@@ -54,6 +52,11 @@ FocusScope {
             event.accepted = true;
         }
 
+        ScrollBar { view: page }
+        ScrollBar {
+            view: page
+            upright: false
+        }
         Image {
             id: picture
 

@@ -65,7 +65,7 @@ FocusScope {
         anchors.right: parent.right
         anchors.rightMargin: Tokens.unit
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.max(64, Math.min(implicitWidth, cell.width * 0.36))
+        width: Math.max(64, Math.min(naturalWidth, cell.width * 0.36))
         value: cell.edited.length > 0 ? cell.before : cell.line.text
         name: Texts.localized("Quantity") + ": " + cell.line.title
         placeholderText: cell.line.placeholder

@@ -29,7 +29,7 @@ ListRow {
         TextField {
             id: field
 
-            readonly property real natural: Math.max(implicitWidth, row.keyboard === Keyboard.Text || row.keyboard === Keyboard.Email ? 160 : 72)
+            readonly property real natural: Math.max(naturalWidth, row.keyboard === Keyboard.Text || row.keyboard === Keyboard.Email ? 160 : 72)
 
             focus: true
             width: row.title.length === 0 ? row.width - 2 * Tokens.margin - (unit.visible ? unit.width + Tokens.unit : 0) - (row.picture.length > 0 ? Tokens.icon + Tokens.gap : 0)

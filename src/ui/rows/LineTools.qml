@@ -80,12 +80,8 @@ Item {
                 visible: parts.line.sliding.x < 0
                 text: Texts.localized("Delete")
                 primary: true
-                background: Rectangle {
-                    color: Tokens.colors.destructive
-                    radius: Tokens.radius
-
-                    FocusRing { shown: button.visualFocus }
-                }
+                fill: Tokens.colors.destructive
+                radius: Tokens.radius
                 onClicked: {
                     parts.line.deleteShown = false;
                     parts.line.remove();

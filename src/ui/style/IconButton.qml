@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kesto
 
 /*! A picture that can be touched; its name is for those who do not see it. */
-T.AbstractButton {
+Pressable {
     id: control
 
     required property string picture
@@ -13,23 +12,14 @@ T.AbstractButton {
 
     implicitWidth: Math.max(Tokens.rowHeight, size + 2 * Tokens.unit)
     implicitHeight: implicitWidth
-    focusPolicy: Qt.StrongFocus
     opacity: enabled ? (down ? 0.5 : 1) : 0.4
-
-    Accessible.role: Accessible.Button
     Accessible.name: name
-    Keys.onReturnPressed: control.clicked()
-    Keys.onEnterPressed: control.clicked()
 
-    contentItem: Item {
-        Icon {
-            anchors.centerIn: parent
-            name: control.picture
-            size: control.size
-            color: control.color
-        }
-    }
-    background: Item {
-        FocusRing { shown: control.visualFocus }
+    FocusRing { shown: control.visualFocus }
+    Icon {
+        anchors.centerIn: parent
+        name: control.picture
+        size: control.size
+        color: control.color
     }
 }
