@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
-#include <QRegularExpression>
 #include <QStringDecoder>
 #include <QVariantMap>
 
@@ -23,22 +22,6 @@ QVariantList arrayOf(const QString &name)
     return content ? content->toList() : QVariantList();
 }
 
-QStringList rowsOf(const QString &file)
-{
-    const QString text = ShippedContent::textOf(QStringLiteral(KESTO_SOURCES "/resources/catalogue/") + file);
-    QStringList rows = text.split(u'\n', Qt::SkipEmptyParts);
-    rows.removeIf([](const QString &row) { return row.startsWith(u'#'); });
-    return rows;
-}
-
-QStringList cellsOf(const QString &row)
-{
-    QStringList cells;
-    for (const QString &cell : row.split(u'|'))
-        cells.append(cell.trimmed());
-    return cells;
-}
-
 } // namespace
 
 const ShippedContent &ShippedContent::get()
@@ -50,7 +33,6 @@ const ShippedContent &ShippedContent::get()
 ShippedContent::ShippedContent()
 {
     readProducts();
-    readVocabulary();
     readDishes();
 }
 
@@ -85,11 +67,9 @@ void ShippedContent::readProducts()
             const QVariantMap entry = entries[i].toMap();
             const QString name = entry.value(QStringLiteral("name")).toString();
             const QVariant kind = entry.value(QStringLiteral("Дополнительное поле"));
-            const QStringList phases = entry.value(QStringLiteral("Периоды")).toString().split(u',');
+            const QString phases = entry.value(QStringLiteral("Периоды")).toString().remove(u',');
             EXPECT_EQ(entry.size(), 3) << name.toStdString();
             EXPECT_TRUE(kind.typeId() == QMetaType::LongLong) << name.toStdString();
-            EXPECT_FALSE(positions_[language].contains(name)) << name.toStdString() << " stands twice";
-            positions_[language].insert(name, static_cast<int>(i));
             Product &product = products_[i];
             product.names[language] = name;
             if (language == Russian) {
@@ -100,26 +80,6 @@ void ShippedContent::readProducts()
                 EXPECT_EQ(product.phases, phases) << name.toStdString();
             }
         }
-    }
-}
-
-void ShippedContent::readVocabulary()
-{
-    int position = -1;
-    for (const QString &row : rowsOf(QStringLiteral("free.txt"))) {
-        const QStringList cells = cellsOf(row);
-        ASSERT_EQ(cells.size(), 3) << row.toStdString();
-        for (const Language language : kLanguages) {
-            const QString &name = cells[1 + language];
-            EXPECT_FALSE(positions_[language].contains(name)) << name.toStdString() << " stands twice";
-            positions_[language].insert(name, position);
-        }
-        --position;
-    }
-    for (const QString &row : rowsOf(QStringLiteral("units.txt"))) {
-        const QStringList cells = cellsOf(row);
-        ASSERT_EQ(cells.size(), 6) << row.toStdString();
-        units_.append({cells[0], {cells.mid(1, 3), cells.mid(4, 2)}});
     }
 }
 
@@ -141,44 +101,6 @@ void ShippedContent::readDishes()
         EXPECT_EQ(record.size(), 10) << dish.dishID.toStdString();
         dishes_.append(dish);
     }
-}
-
-int ShippedContent::position(Language language, const QString &name) const
-{
-    return positions_[language].value(name, kUnknown);
-}
-
-QString ShippedContent::unitKey(Language language, const QString &number, const QString &unit) const
-{
-    const int form = language == Russian ? russianForm(number) : (number == u'1' ? 0 : 1);
-    for (const Unit &known : units_) {
-        if (known.forms[language][form] == unit)
-            return known.key;
-    }
-    return {};
-}
-
-std::optional<Line> parseLine(Language language, const QString &line)
-{
-    static const std::array<QRegularExpression, 2> forms{
-        QRegularExpression(QStringLiteral("^(\\S.*?) - (?:(по вкусу)|(\\d+(?:,\\d+)?) (\\S.*))$")),
-        QRegularExpression(QStringLiteral("^(\\S.*?) - (?:(to taste)|(\\d+(?:\\.\\d+)?) (\\S.*))$"))};
-    const QRegularExpressionMatch match = forms[language].match(line);
-    if (!match.hasMatch())
-        return std::nullopt;
-    return Line{match.captured(1),
-                {!match.captured(2).isEmpty(), match.captured(3).replace(u',', u'.'), match.captured(4)}};
-}
-
-int russianForm(const QString &number)
-{
-    if (number.contains(u'.'))
-        return 1;
-    const int value = number.toInt();
-    const int ones = value % 10;
-    if (value % 100 >= 11 && value % 100 <= 14)
-        return 2;
-    return ones == 1 ? 0 : (ones >= 2 && ones <= 4 ? 1 : 2);
 }
 
 } // namespace kesto::test
