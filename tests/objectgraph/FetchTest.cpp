@@ -194,25 +194,6 @@ TEST_F(FetchTest, PredicatesAgreeInTheStoreAndInMemory)
     });
 }
 
-TEST_F(FetchTest, FarSidesCountAsTheyAreInMemory)
-{
-    fill();
-    saveAndReopen();
-    set(person("all"), "age", 41);
-    set(*graph().find("Pet", "Kit"), "owner", &person("all"));
-    set(*graph().find("Pet", "Tom"), "owner", nullptr);
-    const auto check = [&] {
-        EXPECT_EQ(found("Pet", attribute("owner.age") == 41), (Names{"Kit", "Rex"}));
-        EXPECT_EQ(found("Pet", attribute("owner.age") == 40), Names{});
-        EXPECT_EQ(found("Pet", attribute("owner.age") == 0), Names{});
-    };
-    check();
-    saveAndReopen();
-    check();
-    graph().context.deleteObject(person("all"));
-    EXPECT_EQ(found("Pet", attribute("owner.age") == 41), Names{});
-}
-
 TEST_F(FetchTest, OrdersAgreeInTheStoreAndInMemory)
 {
     const std::vector<std::pair<const char *, QVariant>> people{{"Я", 1},          {"Б", QVariant()}, {"б", 1},
@@ -250,30 +231,6 @@ TEST_F(FetchTest, OrdersAgreeInTheStoreAndInMemory)
     check();
     for (ManagedObject *object : graph().fetch("Person", {.fetchLimit = 5}))
         set(*object, "active", true);
-    check();
-}
-
-TEST_F(FetchTest, LimitsCountWhatIsNotSaved)
-{
-    for (int i = 0; i < 10; ++i)
-        insert("Person", {{"name", QString(QChar(u'a' + i))}, {"age", i}});
-    saveAndReopen();
-    for (const char *gone : {"a", "b"})
-        graph().context.deleteObject(person(gone));
-    set(person("c"), "age", 100); // moves to the end
-    set(person("j"), "age", -1);  // moves to the front
-    insert("Person", {{"name", text("new")}, {"age", 3}});
-    const auto first = [&](int limit) {
-        return names(graph().fetch(
-            "Person", {.predicate = attribute("age") < 50, .sortDescriptors = {{"age"}}, .fetchLimit = limit}));
-    };
-    const auto check = [&] {
-        EXPECT_THAT(first(1), ElementsAre("j"));
-        EXPECT_THAT(first(3), ElementsAre("j", "d", "new"));
-        EXPECT_THAT(first(0), ElementsAre("j", "d", "new", "e", "f", "g", "h", "i"));
-    };
-    check();
-    saveAndReopen();
     check();
 }
 

@@ -145,16 +145,10 @@ void GraphTest::saveAndReopen()
     reopen();
 }
 
-ManagedObject &GraphTest::person(const char *name)
+ManagedObject &GraphTest::named(const char *entity, const char *name)
 {
-    ManagedObject *found = graph_->find("Person", name);
-    return found != nullptr ? *found : insert("Person", {{"name", QString::fromUtf8(name)}});
-}
-
-ManagedObject &GraphTest::pet(const char *name)
-{
-    ManagedObject *found = graph_->find("Pet", name);
-    return found != nullptr ? *found : insert("Pet", {{"name", QString::fromUtf8(name)}});
+    ManagedObject *found = graph_->find(entity, name);
+    return found != nullptr ? *found : insert(entity, {{"name", QString::fromUtf8(name)}});
 }
 
 } // namespace kesto::test

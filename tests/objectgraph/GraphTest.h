@@ -75,8 +75,10 @@ protected:
 
     [[nodiscard]] OpenGraph &graph() { return *graph_; }
     ManagedObject &insert(const char *entity, Values values = {}) { return graph_->insert(entity, values); }
-    [[nodiscard]] ManagedObject &person(const char *name);
-    [[nodiscard]] ManagedObject &pet(const char *name);
+    /// The object of a name; made when there is none.
+    [[nodiscard]] ManagedObject &named(const char *entity, const char *name);
+    [[nodiscard]] ManagedObject &person(const char *name) { return named("Person", name); }
+    [[nodiscard]] ManagedObject &pet(const char *name) { return named("Pet", name); }
 
     QTemporaryDir folder_;
     std::unique_ptr<FaultyVfs> disk_;

@@ -140,14 +140,19 @@ void RandomGraphTest::step()
         const char *key = isPet ? (pick(2) == 0 ? "owner" : "sitter") : "boss";
         ManagedObject *self = object(number);
         const int before = now_.link(number, key);
-        if (pick(2) == 0)
+        const int way = pick(3);
+        if (way == 0)
             set(*self, key, object(target));
         else { // the same from the other side
             const char *inverse = isPet ? (key == std::string_view("owner") ? "pets" : "guests") : "staff";
             const int slot = graph().entity("Person").property(inverse).slot;
-            if (target != 0)
+            if (target != 0 && way == 1)
                 object(target)->addToMany(slot, self);
-            else if (before != 0)
+            else if (target != 0) { // instead of all others
+                set(*object(target), inverse, QVariant::fromValue(QList<ManagedObject *>{self}));
+                for (const int other : now_.pointingTo(target, key))
+                    now_.things[other].links[key] = 0;
+            } else if (before != 0)
                 object(before)->removeFromMany(slot, self);
         }
         now_.things[number].links[key] = target;

@@ -10,6 +10,7 @@ namespace
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+/// What a graph of random edits leaves out: pairs, and what calls for trouble.
 class RelationshipTest : public GraphTest
 {
 protected:
@@ -31,11 +32,7 @@ protected:
             }
         }
     }
-    ManagedObject &passport(const char *name)
-    {
-        ManagedObject *found = graph().find("Passport", name);
-        return found != nullptr ? *found : insert("Passport", {{"name", QString::fromUtf8(name)}});
-    }
+    ManagedObject &passport(const char *name) { return named("Passport", name); }
     /// Runs a change over every state of memory, then a check at once, after saving, and after reopening.
     void always(const std::function<void()> &prepare, const std::function<void()> &change,
                 const std::function<void()> &check)
@@ -59,60 +56,6 @@ protected:
         }
     }
 };
-
-TEST_F(RelationshipTest, ManySideFollowsOneSide)
-{
-    always(
-        [&] {
-            for (const char *name : {"Rex", "Tom", "Kit"})
-                set(pet(name), "owner", &person("Anna"));
-            (void)person("Boris");
-        },
-        [&] {
-            set(pet("Rex"), "owner", &person("Boris")); // another parent
-            set(pet("Tom"), "owner", nullptr);
-            set(pet("Kit"), "owner", nullptr); // away and back
-            set(pet("Kit"), "owner", &person("Anna"));
-            set(pet("New"), "owner", &person("Anna"));
-            set(pet("New"), "sitter", &person("Boris")); // the other relationship of the same pair of entities
-        },
-        [&] {
-            EXPECT_THAT(members(person("Anna"), "pets"), ElementsAre("Kit", "New"));
-            EXPECT_THAT(members(person("Boris"), "pets"), ElementsAre("Rex"));
-            EXPECT_THAT(members(person("Boris"), "guests"), ElementsAre("New"));
-            EXPECT_THAT(members(person("Anna"), "guests"), IsEmpty());
-            EXPECT_EQ(name(one(pet("Rex"), "owner")), "Boris");
-            EXPECT_EQ(one(pet("Tom"), "owner"), nullptr);
-        });
-}
-
-TEST_F(RelationshipTest, OneSideFollowsManySide)
-{
-    always(
-        [&] {
-            for (const char *name : {"Rex", "Tom", "Kit"})
-                set(pet(name), "owner", &person("Anna"));
-            set(pet("Old"), "owner", &person("Boris"));
-        },
-        [&] {
-            ManagedObject &boris = person("Boris");
-            const int pets = boris.entity().property("pets").slot;
-            boris.addToMany(pets, &pet("Rex"));      // taken from Anna
-            boris.addToMany(pets, &pet("Rex"));      // twice is once
-            boris.removeFromMany(pets, &pet("Tom")); // Anna's
-            boris.removeFromMany(pets, &pet("Old"));
-            const QList<ManagedObject *> wanted{&pet("Kit"), &pet("New")};
-            set(person("Anna"), "pets", QVariant::fromValue(wanted)); // drops Tom
-        },
-        [&] {
-            EXPECT_THAT(members(person("Anna"), "pets"), ElementsAre("Kit", "New"));
-            EXPECT_THAT(members(person("Boris"), "pets"), ElementsAre("Rex"));
-            EXPECT_EQ(name(one(pet("Rex"), "owner")), "Boris");
-            EXPECT_EQ(one(pet("Tom"), "owner"), nullptr);
-            EXPECT_EQ(one(pet("Old"), "owner"), nullptr);
-            EXPECT_EQ(name(one(pet("New"), "owner")), "Anna");
-        });
-}
 
 TEST_F(RelationshipTest, PairsStayPairs)
 {
@@ -143,56 +86,25 @@ TEST_F(RelationshipTest, PairsStayPairs)
     }
 }
 
-TEST_F(RelationshipTest, AnEntityCanLinkToItself)
-{
-    always([&] { set(person("Boris"), "boss", &person("Anna")); },
-           [&] {
-               set(person("Clara"), "boss", &person("Boris"));
-               set(person("Anna"), "boss", &person("Anna")); // her own boss
-           },
-           [&] {
-               EXPECT_THAT(members(person("Anna"), "staff"), ElementsAre("Anna", "Boris"));
-               EXPECT_THAT(members(person("Boris"), "staff"), ElementsAre("Clara"));
-               EXPECT_EQ(one(person("Anna"), "boss"), &person("Anna"));
-           });
-    graph().context.deleteObject(person("Anna"));
-    EXPECT_EQ(one(person("Boris"), "boss"), nullptr);
-    saveAndReopen();
-    EXPECT_EQ(graph().find("Person", "Anna"), nullptr);
-    EXPECT_EQ(one(person("Boris"), "boss"), nullptr);
-}
-
-TEST_F(RelationshipTest, DeletionFollowsItsRules)
+TEST_F(RelationshipTest, APassportGoesWithItsHolderAndNotTheReverse)
 {
     always(
         [&] {
-            set(pet("Rex"), "owner", &person("Anna"));
-            set(pet("Rex"), "sitter", &person("Boris"));
-            set(pet("Guest"), "owner", &person("Boris"));
-            set(pet("Guest"), "sitter", &person("Anna"));
             set(person("Anna"), "passport", &passport("A"));
-            set(person("Boris"), "boss", &person("Anna"));
             set(person("Boris"), "passport", &passport("B"));
-            set(person("Anna"), "boss", &person("Clara"));
         },
         [&] {
-            if (ManagedObject *anna = graph().find("Person", "Anna")) {
-                set(pet("Late"), "owner", anna); // never seen by the store
-                graph().context.deleteObject(*anna);
-                EXPECT_TRUE(anna->isDeleted());
+            set(pet("Late"), "owner", &person("Anna")); // never seen by the store
+            for (ManagedObject *gone : {&person("Anna"), &passport("B")}) {
+                graph().context.deleteObject(*gone);
+                EXPECT_TRUE(gone->isDeleted());
             }
-            ManagedObject *borisPassport = graph().find("Passport", "B");
-            graph().context.deleteObject(*borisPassport); // a passport does not take its holder along
         },
         [&] {
-            EXPECT_THAT(names(graph().fetch("Person", {.sortDescriptors = {{"name"}}})), ElementsAre("Boris", "Clara"));
-            EXPECT_THAT(names(graph().fetch("Pet")), ElementsAre("Guest"));
+            EXPECT_THAT(names(graph().fetch("Person")), ElementsAre("Boris"));
             EXPECT_THAT(names(graph().fetch("Passport")), IsEmpty());
-            EXPECT_EQ(one(person("Boris"), "boss"), nullptr);
+            EXPECT_THAT(names(graph().fetch("Pet")), IsEmpty());
             EXPECT_EQ(one(person("Boris"), "passport"), nullptr);
-            EXPECT_THAT(members(person("Boris"), "guests"), IsEmpty());
-            EXPECT_THAT(members(person("Clara"), "staff"), IsEmpty());
-            EXPECT_EQ(one(pet("Guest"), "sitter"), nullptr);
         });
 }
 
@@ -215,22 +127,6 @@ TEST_F(RelationshipTest, SetsMayChangeWhileTheyAreWalked)
     saveAndReopen();
     EXPECT_EQ(person("Anna").toManyCount(pets), 0U);
     EXPECT_EQ(graph().fetch("Pet").size(), 10U);
-}
-
-TEST_F(RelationshipTest, WhatWasNeverSavedLeavesNoTrace)
-{
-    ManagedObject &anna = person("Anna");
-    save();
-    ManagedObject &rex = insert("Pet", {{"name", QStringLiteral("Rex")}, {"owner", QVariant::fromValue(&anna)}});
-    graph().context.deleteObject(rex);
-    EXPECT_TRUE(rex.isDeleted());
-    EXPECT_THAT(members(anna, "pets"), IsEmpty());
-    EXPECT_FALSE(graph().context.hasChanges());
-    save();
-    ManagedObject &tom = pet("Tom");
-    EXPECT_NE(tom.objectID(), rex.objectID());
-    saveAndReopen();
-    EXPECT_THAT(names(graph().fetch("Pet")), ElementsAre("Tom"));
 }
 
 TEST_F(RelationshipTest, DeletedObjectsRefuseWritesAndLinks)
