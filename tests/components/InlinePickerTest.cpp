@@ -125,43 +125,23 @@ TEST_F(InlinePickerTest, ATouchOpensMovesAndClosesIt)
     }
 }
 
-TEST_F(InlinePickerTest, ItStaysWithItsRowWhenOthersComeAndGo)
+// That it stays with its row whatever comes and goes is shown by the random edits below.
+TEST_F(InlinePickerTest, TheUserDeletesByWhatTheTableShows)
 {
     table.displayPickerForIndexPath({0, 1});
-    table.add({0, 0}, QStringLiteral("x"));
-    EXPECT_EQ(table.shown(), "x a b |b c / d e");
-    table.add({0, 3}, QStringLiteral("y")); // directly below, after the picker
-    EXPECT_EQ(table.shown(), "x a b |b y c / d e");
-    table.add({0, 2}, QStringLiteral("z")); // in its row's place
-    EXPECT_EQ(table.shown(), "x a z b |b y c / d e");
-    table.addSection(0, {QStringLiteral("s")});
-    EXPECT_EQ(table.shown(), "s / x a z b |b y c / d e");
-    table.dropSection(0);
+    table.deleteRowByUser(0, 3); // behind the picker
+    EXPECT_EQ(table.shown(), "a b |b / d e");
     table.deleteRowByUser(0, 0);
-    table.deleteRowByUser(0, 4); // y, as the table shows it
-    EXPECT_EQ(table.shown(), "a z b |b c / d e");
+    EXPECT_EQ(table.shown(), "b |b / d e");
     table.content[0].removeFirst();
-    table.displayPickerForIndexPath({1, 0});
-    table.reloadSection(0);
-    EXPECT_EQ(table.shown(), "z b c / d |d e");
-    table.remove({1, 0});
-    EXPECT_EQ(table.shown(), "z b c / e");
-    EXPECT_FALSE(table.hasInlinePicker());
-
-    table.displayPickerForIndexPath({1, 0});
-    table.dropSection(1);
-    EXPECT_EQ(table.shown(), "z b c");
-    EXPECT_FALSE(table.hasInlinePicker());
-    table.displayPickerForIndexPath({0, 2});
-    table.content[0].removeLast();
     table.reloadData(); // its row is gone
-    EXPECT_EQ(table.shown(), "z b");
+    EXPECT_EQ(table.shown(), " / d e");
     EXPECT_FALSE(table.hasInlinePicker());
-    table.displayPickerForIndexPath({0, 1});
+    table.displayPickerForIndexPath({1, 0});
     table.setEditing(true);
-    table.displayPickerForIndexPath({0, 1});
-    table.selectRow(0, 0);
-    EXPECT_EQ(table.shown(), "z b");
+    table.displayPickerForIndexPath({1, 0});
+    table.selectRow(1, 0);
+    EXPECT_EQ(table.shown(), " / d e");
 }
 
 TEST_F(InlinePickerTest, ItsWheelsShowTheRowAndTellWhatTheUserTurns)

@@ -107,17 +107,6 @@ TEST_F(SearchBarDietTableViewControllerTest, AScopeNarrowsTheListAndASearchNarro
     EXPECT_TRUE(products->searchResults().isEmpty());
 }
 
-TEST_F(SearchBarDietTableViewControllerTest, AChangedScopeSearchesAnew)
-{
-    Products *products = productsInWindow(false);
-    products->setSearchText(QStringLiteral("b"));
-    EXPECT_EQ(products->shown(), "bread beef");
-    products->updateToPeriod(1);
-    EXPECT_EQ(products->shown(), "beef");
-    products->endSearch();
-    EXPECT_EQ(products->shown(), "egg beef");
-}
-
 TEST_F(SearchBarDietTableViewControllerTest, ThePeriodSelectorsAnswerClosesIt)
 {
     Products *products = productsInWindow(true);

@@ -137,12 +137,4 @@ TEST_F(WindowTest, TheProgressIndicatorStaysUntilTheLastOneHidesIt)
     EXPECT_TRUE(progress.isVisible());
 }
 
-TEST_F(WindowTest, AViewIsNamedAfterItsScreen)
-{
-    EXPECT_EQ(ViewController().viewName(), QStringLiteral("View"));
-    EXPECT_EQ(NavigationController().viewName(), QStringLiteral("NavigationView"));
-    EXPECT_EQ(SideMenuContainer(screen("a"), screen("b")).viewName(), QStringLiteral("SideMenuView"));
-    EXPECT_EQ(screen("a")->viewName(), QStringLiteral("ScreenView"));
-}
-
 } // namespace kesto::test
