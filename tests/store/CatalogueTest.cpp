@@ -39,9 +39,7 @@ std::vector<QStringList> sections(const QVariantList &found, const QString &name
 TEST(CatalogueOfAPhase, IsSortedByCategoryAndByTheNameInTheLanguage)
 {
     for (const bool russian : {true, false}) {
-        TestPlatform::Options options;
-        options.language = russian ? QStringLiteral("ru") : QStringLiteral("en");
-        StoreFixture program(options);
+        StoreFixture program({.language = russian ? QStringLiteral("ru") : QStringLiteral("en")});
         ManagedObjectContext &context = program.context();
         addDish(context, "Яйцо", "Egg", "0, 1", "Соусы");
         addDish(context, "Айран", "Yoghurt drink", "01", "Соусы");

@@ -55,9 +55,7 @@ TEST(Phases, CountCalendarDaysInEveryZone)
          {std::tuple("Europe/Berlin", 2024, 3, 30), std::tuple("Europe/Berlin", 2024, 10, 26),
           std::tuple("America/New_York", 2024, 3, 9), std::tuple("America/New_York", 2024, 11, 2),
           std::tuple("Asia/Kolkata", 2024, 3, 30), std::tuple("America/Sao_Paulo", 2018, 11, 3)}) {
-        TestPlatform::Options options;
-        options.timeZone = zone;
-        StoreFixture program(options);
+        StoreFixture program({.timeZone = zone});
         const Calendar &calendar = program.platform.calendar();
         const QDate first(year, month, day);
         program.defaults().setValue(calendar.startOfDay(first), Keys::kStartDietDateKey);
@@ -68,18 +66,6 @@ TEST(Phases, CountCalendarDaysInEveryZone)
             EXPECT_EQ(CoreDataManager::dietPeriodForCalendar(calendar, calendar.startOfDay(first.addDays(i - 1))),
                       phases[i])
                 << zone << ' ' << i;
-    }
-}
-
-TEST(Phases, HaveNamesAndColoursOnlyWithinTheFour)
-{
-    StoreFixture program;
-    EXPECT_EQ(CoreDataManager::periodNameForDietPeriod(0), QStringLiteral("Атака"));
-    EXPECT_EQ(CoreDataManager::periodNameForDietPeriod(3), localized(QStringLiteral("Cтабилизация")));
-    EXPECT_EQ(CoreDataManager::colorForPeriod(1)->name(), QStringLiteral("#95cbf9"));
-    for (const int outside : {-1, 4}) {
-        EXPECT_TRUE(CoreDataManager::periodNameForDietPeriod(outside).isNull());
-        EXPECT_FALSE(CoreDataManager::colorForPeriod(outside).has_value());
     }
 }
 

@@ -142,14 +142,7 @@ TEST(ShoppingListOfTheStore, TakesAsManyStatementsForALongListAsForAShort)
     const auto statements = [](int size) {
         StatementLog log;
         ShoppingList list;
-        for (int i = 0; i < size; ++i) {
-            auto &product = list.context().insert<Ingredient>();
-            product.setName(QString::number(i));
-            auto &line = list.context().insert<PurhaseIngredient>();
-            line.setIngredient(&product);
-            line.setDate(QDateTime::fromMSecsSinceEpoch(1000 * i, Qt::UTC));
-        }
-        EXPECT_TRUE(list.context().save());
+        list.fillShoppingList(size);
         list.restart();
         (void)list.context();
         (void)log.take();

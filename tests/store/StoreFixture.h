@@ -1,6 +1,8 @@
 #pragma once
 
 #include "model/DietDay.h"
+#include "model/Ingredient.h"
+#include "model/PurhaseIngredient.h"
 #include "platform/UserDefaults.h"
 #include "store/CoreDataManager.h"
 #include "store/Keys.h"
@@ -64,17 +66,33 @@ public:
         return day != nullptr ? day->weight() : std::nullopt;
     }
 
+    /// A product and its line on the shopping list, so many times; saved.
+    void fillShoppingList(int size)
+    {
+        for (int i = 0; i < size; ++i) {
+            auto &product = context().insert<Ingredient>();
+            product.setName(QString::number(i));
+            auto &line = context().insert<PurhaseIngredient>();
+            line.setIngredient(&product);
+            line.setDate(QDateTime::fromMSecsSinceEpoch(1000 * i, Qt::UTC));
+        }
+        EXPECT_TRUE(context().save());
+    }
+
     TestPlatform platform;
 
 private:
     void registerDefaults() { defaults().registerDefaults({{Keys::kUseICloudKey, true}, {Keys::kSystemKey, 0}}); }
 };
 
-inline TestPlatform::Options withCloud()
+inline QStringList texts(std::initializer_list<const char *> utf8)
 {
-    TestPlatform::Options options;
-    options.cloud = true;
-    return options;
+    QStringList list;
+    for (const char *text : utf8)
+        list.append(QString::fromUtf8(text));
+    return list;
 }
+
+inline TestPlatform::Options withCloud() { return {.cloud = true}; }
 
 } // namespace kesto::test

@@ -212,21 +212,12 @@ TEST(Stores, TheContextIsAnnouncedOnce)
     EXPECT_EQ(announced, 1);
 }
 
-TEST(Stores, UnitsAndLanguageComeFromTheSettings)
+TEST(Stores, TheLanguageComesFromTheSettings)
 {
-    for (const auto &[system, language, kilograms, centimetres] :
-         {std::tuple(0, "ru", "кг", "см"), std::tuple(0, "en", "kg", "cm"), std::tuple(1, "ru", "lbs", "″")}) {
-        TestPlatform::Options options;
-        options.language = QLatin1String(language);
-        StoreFixture program(options);
-        program.defaults().setInteger(system, Keys::kSystemKey);
-        program.defaults().setValue(QString::fromLatin1(language), Keys::kLangluageCodeKey);
-        EXPECT_EQ(program.manager().isMetrickSystem(), system == 0);
-        EXPECT_EQ(program.manager().langluageCode(), QLatin1String(language));
-        EXPECT_EQ(program.platform.strings().langluageCode(), QLatin1String(language));
-        EXPECT_EQ(program.manager().kgString(), QString::fromUtf8(kilograms));
-        EXPECT_EQ(program.manager().cmString(), QString::fromUtf8(centimetres));
-    }
+    StoreFixture program({.language = QStringLiteral("en")});
+    program.defaults().setValue(QStringLiteral("ru"), Keys::kLangluageCodeKey);
+    EXPECT_EQ(program.manager().langluageCode(), QStringLiteral("ru"));
+    EXPECT_EQ(program.platform.strings().langluageCode(), QStringLiteral("ru"));
 }
 
 } // namespace
