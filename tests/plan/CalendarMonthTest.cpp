@@ -20,10 +20,7 @@ TEST(CalendarMonth, ShowsWholeWeeksFromTheUsersFirstWeekday)
           std::tuple("America/Sao_Paulo", Qt::Sunday, QDate(2018, 11, 4), QDate(2018, 10, 28), 5),
           std::tuple("Asia/Kolkata", Qt::Monday, QDate(2027, 2, 1), QDate(2027, 2, 1), 4),
           std::tuple("Asia/Tehran", Qt::Saturday, QDate(2024, 6, 15), QDate(2024, 6, 1), 5)}) {
-        TestPlatform::Options options;
-        options.timeZone = zone;
-        options.firstWeekday = firstWeekday;
-        PlanFixture program(options);
+        PlanFixture program({.timeZone = zone, .firstWeekday = firstWeekday});
         CalendarMonth model;
         model.showMonth(month);
         ASSERT_EQ(model.weeks(), weeks) << month.toString().toStdString();
@@ -78,10 +75,7 @@ TEST(CalendarMonth, NumbersWeekdays)
     // Sunday is 1: (1 + first weekday − 1) mod 7, and so on.
     for (const auto &[firstWeekday, numbers] : {std::pair(Qt::Sunday, QList<int>{1, 2, 3, 4, 5, 6, 0}),
                                                 std::pair(Qt::Monday, QList<int>{3, 4, 5, 6, 0, 1, 2})}) {
-        TestPlatform::Options options;
-        options.firstWeekday = firstWeekday;
-        options.language = QStringLiteral("en");
-        PlanFixture program(options);
+        PlanFixture program({.firstWeekday = firstWeekday, .language = QStringLiteral("en")});
         CalendarMonth model;
         model.showMonth(QDate(2024, 3, 1));
         QList<int> found;

@@ -3,8 +3,6 @@
 #include "components/NavigationController.h"
 #include "model/Dish.h"
 #include "model/DishInDietDay.h"
-#include "model/JornalDay.h"
-#include "plan/CalendarContainerViewController.h"
 
 #include <QTest>
 
@@ -196,75 +194,48 @@ TEST(Calendar, MeasuresAreStoredAsTyped)
     }
 }
 
-TEST(Calendar, JournalKeepsADayThatIsEmptyOtherwise)
-{
-    Calendar7March at;
-    at.footer().endEditing(0, QStringLiteral("70"));
-    at.program.context().insert<JornalDay>().setDay(at.record(7));
-    at.footer().endEditing(0, {});
-    ASSERT_NE(at.record(7), nullptr);
-    EXPECT_TRUE(at.cell(7).hasJornal);
-}
-
-TEST(Calendar, NothingIsRecordedBeforeTheStart)
-{
-    Calendar7March at;
-    at.program.storePlan(at.march(20), 3, 10, 10);
-    at.open();
-    EXPECT_TRUE(at.screen->isDayDisabled());
-    EXPECT_TRUE(at.screen->periodName().isNull());
-    EXPECT_FALSE(at.screen->periodColor().isValid());
-    EXPECT_EQ(at.footer().activeButtonsCount(), 3);
-    at.footer().buttonTouched(0);
-    at.footer().endEditing(0, QStringLiteral("70"));
-    at.footer().openJornal();
-    at.screen->openDaySettings();
-    EXPECT_TRUE(at.program.days().isEmpty());
-    at.touch(20);
-    EXPECT_FALSE(at.screen->isDayDisabled());
-}
-
 // Who weighs less than the ideal gets phases of negative length: all days count as Stabilization then, those before the
 // start too.
-TEST(Calendar, NothingIsRecordedBeforeAStartWithNegativePhases)
+TEST(Calendar, NothingIsOpenedOrRecordedBeforeTheStart)
 {
-    Calendar7March at;
-    {
-        TestShell shell;
-        CalculatorViewController calculator;
-        calculator.loadViewIfNeeded();
-        calculator.startDietOn(at.march(14));
-        ASSERT_EQ(calculator.period3(), -20);
+    for (const auto &[cruise, consolidation, phaseOfToday] : {std::tuple(10, 10, -1), std::tuple(-14, -20, 3)}) {
+        Calendar7March at;
+        at.program.storePlan(at.march(14), 2, cruise, consolidation);
+        QStringList opened;
+        const auto open = [&opened](const QString &what, const QDateTime &date) {
+            opened.append(what + date.toString(Qt::ISODate));
+            return std::make_unique<ViewController>();
+        };
+        auto made = std::make_unique<CalendarViewController>(CalendarScreens{
+            .jornal = [&](const QDateTime &date) { return open(QStringLiteral("jornal "), date); },
+            .day =
+                [&](const QDateTime &date, int period, DietDayDetailViewControllerDelegate *delegate) {
+                    EXPECT_NE(delegate, nullptr);
+                    return open(QStringLiteral("day %1 ").arg(period), date);
+                },
+        });
+        CalendarViewController &screen = *made;
+        const InWindow shown(std::make_unique<NavigationController>(std::move(made)));
+        ASSERT_EQ(CoreDataManager::dietPeriodForCalendar(at.program.calendar(), at.march(7)), phaseOfToday);
+        EXPECT_TRUE(screen.isDayDisabled());
+        EXPECT_TRUE(screen.periodName().isNull());
+        EXPECT_FALSE(screen.periodColor().isValid());
+        EXPECT_FALSE(screen.footer()->isEnabled());
+        screen.footer()->buttonTouched(2);
+        screen.footer()->endEditing(0, QStringLiteral("70"));
+        screen.footer()->openJornal();
+        screen.openDaySettings();
+        EXPECT_TRUE(opened.isEmpty());
+        EXPECT_TRUE(at.program.days().isEmpty());
+
+        screen.touchCell(screen.month()->indexOf(at.march(14)));
+        EXPECT_FALSE(screen.isDayDisabled());
+        EXPECT_TRUE(screen.footer()->isEnabled());
+        screen.openDaySettings();
+        screen.navigationController()->popViewController(false);
+        screen.footer()->openJornal();
+        EXPECT_EQ(opened, texts({"day 0 2024-03-13T23:00:00Z", "jornal 2024-03-13T23:00:00Z"}));
     }
-    const QStringList attack = at.program.days();
-    ASSERT_EQ(attack.size(), 2);
-
-    int opened = 0;
-    const auto count = [&opened] {
-        ++opened;
-        return std::make_unique<ViewController>();
-    };
-    auto made = std::make_unique<CalendarViewController>(
-        CalendarScreens{.jornal = [&](const QDateTime &) { return count(); },
-                        .day = [&](const QDateTime &, int, DietDayDetailViewControllerDelegate *) { return count(); }});
-    CalendarViewController &screen = *made;
-    const InWindow shown(std::make_unique<NavigationController>(std::move(made)));
-    ASSERT_EQ(CoreDataManager::dietPeriodForCalendar(at.program.calendar(), at.march(7)), 3);
-    EXPECT_TRUE(screen.isDayDisabled());
-    EXPECT_TRUE(screen.periodName().isNull());
-    EXPECT_FALSE(screen.footer()->isEnabled());
-    screen.footer()->buttonTouched(2);
-    screen.footer()->endEditing(0, QStringLiteral("70"));
-    screen.footer()->openJornal();
-    screen.openDaySettings();
-    EXPECT_EQ(opened, 0);
-    EXPECT_EQ(at.program.days(), attack);
-
-    screen.touchCell(screen.month()->indexOf(at.march(14)));
-    EXPECT_FALSE(screen.isDayDisabled());
-    EXPECT_TRUE(screen.footer()->isEnabled());
-    screen.openDaySettings();
-    EXPECT_EQ(opened, 1);
 }
 
 TEST(Calendar, FollowsMidnightWhileItIsSeen)
@@ -290,9 +261,7 @@ TEST(Calendar, ListsTheDishesOfTheDayInTheirOrder)
 {
     for (const auto &[language, names] :
          {std::pair("ru", texts({"Каша", "Суп", "Рыба"})), std::pair("en", texts({"Porridge", "Soup", "Fish"}))}) {
-        TestPlatform::Options options;
-        options.language = QLatin1String(language);
-        Calendar7March at(options);
+        Calendar7March at({.language = QLatin1String(language)});
         at.footer().buttonTouched(0);
         const auto plan = [&](int order, const char *russian, const char *english) {
             auto &dish = at.program.context().insert<Dish>();
@@ -317,79 +286,6 @@ TEST(Calendar, ListsTheDishesOfTheDayInTheirOrder)
         EXPECT_TRUE(at.screen->dishes().isEmpty());
         EXPECT_TRUE(at.program.days().isEmpty());
     }
-}
-
-/// Remembers what it was told.
-class FakeDayScreen : public ViewController, public DietDayScreen
-{
-public:
-    void setDate(const QDateTime &date, int period) override
-    {
-        told.append(date.toTimeZone(QTimeZone("Europe/Berlin")).toString(QStringLiteral("MM-dd ")) +
-                    QString::number(period));
-    }
-    void setDisbledDay(bool disabled) override { disbledDay = disabled; }
-    QStringList told;
-    bool disbledDay = false;
-};
-
-TEST(Calendar, LoadsTheDayBesideItOnATablet)
-{
-    Calendar7March at;
-    auto calendar = std::make_unique<CalendarViewController>();
-    CalendarViewController &screen = *calendar;
-    screen.setTitle(QStringLiteral("Календарь"));
-    auto day = std::make_unique<FakeDayScreen>();
-    FakeDayScreen &beside = *day;
-    CalendarContainerViewController container(std::move(calendar), std::move(day));
-    EXPECT_EQ(container.title(), QStringLiteral("Календарь"));
-    screen.loadViewIfNeeded();
-    EXPECT_EQ(beside.told, texts({"03-07 0"}));
-    EXPECT_FALSE(beside.disbledDay);
-    screen.touchCell(screen.month()->indexOf(at.march(8)));
-    EXPECT_EQ(beside.told.last(), QStringLiteral("03-08 1"));
-    screen.footer()->buttonTouched(1);
-    EXPECT_EQ(beside.told.size(), 3) << "the footer's change is seen at once";
-
-    DietDay::dietDatWithDate(at.march(8), at.program.context()).setBO(false);
-    at.record(8)->setChB(true);
-    screen.dietDayDetailViewControllerDidUpdateDay();
-    EXPECT_EQ(screen.month()->cells()[screen.month()->indexOf(at.march(8))].kind, QStringLiteral("Ч/Б"));
-    EXPECT_TRUE(screen.footer()->kindButtons()[0]->isSelected());
-
-    at.program.storePlan(at.march(20), 2, -14, -20);
-    const auto told = beside.told.size();
-    screen.updateUIForDate(at.march(7), 3);
-    EXPECT_TRUE(beside.disbledDay);
-    EXPECT_EQ(beside.told.size(), told) << "nothing of such a day is loaded";
-}
-
-TEST(Calendar, OpensTheJournalAndTheDayOnThePhone)
-{
-    Calendar7March at;
-    QStringList opened;
-    auto made = std::make_unique<CalendarViewController>(CalendarScreens{
-        .jornal =
-            [&](const QDateTime &date) {
-                opened.append(QStringLiteral("jornal ") + date.toString(Qt::ISODate));
-                return std::make_unique<ViewController>();
-            },
-        .day =
-            [&](const QDateTime &date, int period, DietDayDetailViewControllerDelegate *delegate) {
-                EXPECT_NE(delegate, nullptr);
-                opened.append(QStringLiteral("day %1 ").arg(period) + date.toString(Qt::ISODate));
-                return std::make_unique<ViewController>();
-            },
-    });
-    CalendarViewController &screen = *made;
-    NavigationController navigation(std::move(made));
-    screen.loadViewIfNeeded();
-    screen.footer()->openJornal();
-    EXPECT_EQ(navigation.viewControllers().size(), 2);
-    navigation.popViewController(false);
-    screen.openDaySettings();
-    EXPECT_EQ(navigation.viewControllers().size(), 2);
-    EXPECT_EQ(opened, texts({"jornal 2024-03-06T23:00:00Z", "day 0 2024-03-06T23:00:00Z"}));
 }
 
 } // namespace

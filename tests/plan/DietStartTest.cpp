@@ -45,9 +45,7 @@ TEST(DietStart, LeadsFromAFreshProgramToTheCalendar)
           std::tuple("ru", false, "Начать диету с", "Отменить", "Начать", "Атака", "lbs"),
           std::tuple("en", true, "Start the diet on", "Cancel", "Start", "Attack", "kg"),
           std::tuple("en", false, "Start the diet on", "Cancel", "Start", "Attack", "lbs")}) {
-        TestPlatform::Options options = withCloud();
-        options.language = QLatin1String(language);
-        Start start(options, metric);
+        Start start({.language = QLatin1String(language), .cloud = true}, metric);
         start.screen->endEditingText(2, 1, QStringLiteral("33"));
         start.screen->selectRow(0, 0);
 

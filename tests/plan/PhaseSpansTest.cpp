@@ -48,9 +48,7 @@ TEST(PhaseSpans, LeaveOutPhasesWithoutDays)
 
 TEST(PhaseSpans, AreDrawnWithTheirDates)
 {
-    TestPlatform::Options options;
-    options.language = QStringLiteral("en");
-    TestPlatform platform(options);
+    const TestPlatform platform({.language = QStringLiteral("en")});
     const auto dates = [](const QVariantList &bar) {
         QStringList lines;
         for (const QVariant &each : bar) {

@@ -11,14 +11,6 @@
 namespace kesto::test
 {
 
-inline QStringList texts(std::initializer_list<const char *> utf8)
-{
-    QStringList list;
-    for (const char *text : utf8)
-        list.append(QString::fromUtf8(text));
-    return list;
-}
-
 /// A program with the screens of the plan.
 class PlanFixture : public StoreFixture
 {
