@@ -225,14 +225,7 @@ TEST(Cart, OpensALongListWithFewStatements)
     const auto statements = [](int size) {
         StatementLog log;
         CartScreen cart{};
-        for (int i = 0; i < size; ++i) {
-            auto &product = cart.context().insert<Ingredient>();
-            product.setName(QString::number(i));
-            auto &line = cart.context().insert<PurhaseIngredient>();
-            line.setIngredient(&product);
-            line.setDate(QDateTime::fromMSecsSinceEpoch(1000 * i, Qt::UTC));
-        }
-        EXPECT_TRUE(cart.context().save());
+        cart.fillShoppingList(size);
         cart.reopen();
         (void)log.take();
         cart.open();

@@ -10,12 +10,10 @@ namespace kesto::test
 {
 
 /// Seven salads, one soup.
-class DishesFixture : public testing::Test
+class DishesFixture : public RecipesWindow
 {
 protected:
-    DishesFixture() { fill(); }
-
-    void fill()
+    DishesFixture()
     {
         for (const auto &[nameRU, phases] :
              {std::pair("ж", "0, 1"), {"б", "0"}, {"в", "1"}, {"а", "2"}, {"д", "3"}, {"е", "12"}, {"г", ""}})
@@ -38,15 +36,6 @@ protected:
                          [&](const DishTile &tile) { return tile.title == QString::fromUtf8(title); }) -
             tiles.begin());
     }
-    /// In the window, on a stack of its own.
-    DishesViewController &show(std::unique_ptr<DishesViewController> screen)
-    {
-        DishesViewController &shown = *screen;
-        auto root = std::make_unique<NavigationController>(std::move(screen));
-        stack = root.get();
-        Window::sharedWindow().setRootViewController(std::move(root));
-        return shown;
-    }
     [[nodiscard]] DishDetailViewController &opened() const
     {
         return dynamic_cast<DishDetailViewController &>(*stack->topViewController());
@@ -56,14 +45,6 @@ protected:
         return opened().rightBarButtonItems().value(0)->image() == QStringLiteral("checkmarkButton_selected.png");
     }
     void touchCheckMark() const { opened().rightBarButtonItems().value(0)->trigger(); }
-    ~DishesFixture() override
-    {
-        Window::sharedWindow().setRootViewController(nullptr);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-
-    RecipesFixture program;
-    NavigationController *stack = nullptr;
 };
 
 } // namespace kesto::test

@@ -1,6 +1,5 @@
 #include "DishesFixture.h"
 
-#include "components/PopoverController.h"
 #include "objectgraph/StatementLog.h"
 #include "recipes/DishDetailViewController.h"
 #include "recipes/DishesCategoriesViewController.h"
@@ -52,25 +51,6 @@ TEST_F(DishesTest, ScopesFilterByTheirPhase)
         EXPECT_EQ(names(screen.currentItems()).toStdString(), afterReload);
     }
     EXPECT_EQ(periods.count(), 7);
-}
-
-TEST_F(DishesTest, ATabletChoosesTheScopeInAPopover)
-{
-    Window::sharedWindow().setDevice(Window::Device::Phone);
-    EXPECT_TRUE(show(std::make_unique<DishesViewController>(0)).rightBarButtonItems().isEmpty());
-    Window::sharedWindow().setDevice(Window::Device::Tablet);
-    DishesViewController &screen = show(std::make_unique<DishesViewController>(0));
-    screen.updateToPeriod(2);
-    screen.rightBarButtonItems().value(0)->trigger();
-    ASSERT_NE(screen.popover(), nullptr);
-    auto *selector = qobject_cast<TableViewController *>(screen.popover()->content());
-    ASSERT_NE(selector, nullptr);
-    selector->loadViewIfNeeded();
-    EXPECT_EQ(selector->table()->rowAt({0, 2}).accessory, TableRow::Accessory::Checkmark);
-    selector->selectRow(0, 1);
-    EXPECT_EQ(screen.popover(), nullptr);
-    EXPECT_EQ(screen.currentPeriod(), 1);
-    EXPECT_EQ(titles(screen), QStringLiteral("б ж"));
 }
 
 TEST_F(DishesTest, TilesTellPhasesNewsAndPhotos)
@@ -198,47 +178,36 @@ TEST_F(DishesTest, CategoriesOpenInTheirOrder)
     DishesCategoriesViewController browse;
     browse.loadViewIfNeeded();
     EXPECT_EQ(browse.title(), QStringLiteral("Рецепты"));
-    EXPECT_TRUE(browse.leftBarButtonItems().isEmpty());
     ASSERT_EQ(browse.table()->numberOfRowsInSection(0), 9);
     for (int row = 0; row < 9; ++row) {
         EXPECT_EQ(browse.table()->rowAt({0, row}).image, QStringLiteral("%1_recipes_icon").arg(row));
         browse.selectRow(0, row);
-        auto *grid = qobject_cast<DishesViewController *>(shell.detail->topViewController());
-        ASSERT_NE(grid, nullptr);
-        EXPECT_EQ(grid->title(), browse.table()->rowAt({0, row}).title);
-        EXPECT_EQ(grid->categoryIndex(), row);
-        EXPECT_FALSE(grid->addDishMode());
+        auto &grid = dynamic_cast<DishesViewController &>(*shell.detail->topViewController());
+        EXPECT_EQ(grid.title(), browse.table()->rowAt({0, row}).title);
+        EXPECT_EQ(grid.categoryIndex(), row);
+        EXPECT_FALSE(grid.addDishMode());
     }
-    EXPECT_EQ(browse.table()->rowAt({0, 6}).title, QStringLiteral("Блины, оладьи"));
 
     AddingDelegate delegate(program, AddingDelegate::Into::Nothing);
-    auto add = std::make_unique<DishesCategoriesViewController>(&program.day(), 1);
-    add->setDelegate(&delegate);
-    DishesCategoriesViewController &adding = *add;
-    auto root = std::make_unique<NavigationController>(std::make_unique<DishesCategoriesViewController>());
-    NavigationController &under = *root;
-    Window::sharedWindow().setRootViewController(std::move(root));
-    under.pushViewController(std::move(add), false);
+    show(std::make_unique<DishesCategoriesViewController>());
+    auto made = std::make_unique<DishesCategoriesViewController>(&program.day(), 1);
+    DishesCategoriesViewController &adding = *made;
+    adding.setDelegate(&delegate);
+    stack->pushViewController(std::move(made), false);
     EXPECT_EQ(adding.title(), QStringLiteral("Добавить блюдо"));
     adding.selectRow(0, 0);
-    auto *grid = qobject_cast<DishesViewController *>(under.topViewController());
-    ASSERT_NE(grid, nullptr);
-    EXPECT_EQ(grid->title(), QStringLiteral("Салаты"));
-    EXPECT_EQ(titles(*grid), QStringLiteral("в е ж"));
-    grid->selectDishButtonTouchedAtIndexPath(0);
+    auto &grid = dynamic_cast<DishesViewController &>(*stack->topViewController());
+    EXPECT_EQ(titles(grid), QStringLiteral("в е ж"));
+    grid.selectDishButtonTouchedAtIndexPath(0);
     EXPECT_EQ(delegate.added, QStringList(QStringLiteral("в")));
-    under.popViewController(false);
-    ASSERT_EQ(adding.leftBarButtonItems().size(), 1);
-    EXPECT_EQ(adding.leftBarButtonItems()[0]->image(), QStringLiteral("Plus.png"));
-    adding.leftBarButtonItems()[0]->trigger();
-    EXPECT_EQ(under.viewControllers().size(), 1);
+    stack->popViewController(false);
+    adding.leftBarButtonItems().value(0)->trigger();
+    EXPECT_EQ(stack->viewControllers().size(), 1);
 }
 
 TEST(Dishes, AreSortedByTheirEnglishNamesInEnglish)
 {
-    TestPlatform::Options english;
-    english.language = QStringLiteral("en");
-    RecipesFixture other(english);
+    RecipesFixture other({.language = QStringLiteral("en")});
     other.addDish(QStringLiteral("а"), {}, 0, QStringLiteral("Zander"));
     other.addDish(QStringLiteral("б"), {}, 0, QStringLiteral("Apple"));
     other.addDish(QStringLiteral("в"), {}, 0);

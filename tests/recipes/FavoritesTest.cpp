@@ -1,13 +1,10 @@
 #include "RecipesFixture.h"
+#include "ShoppingFixture.h"
 
-#include "components/BarButtonItem.h"
 #include "objectgraph/StatementLog.h"
 #include "recipes/DishDetailViewController.h"
 #include "recipes/FavoritesManager.h"
 #include "recipes/FavoritesViewController.h"
-
-#include <QDir>
-#include <QTemporaryDir>
 
 namespace kesto::test
 {
@@ -101,27 +98,7 @@ TEST(FavoritesManager, MirrorsTheListToTheCloudWhileThatIsUsed)
     }
 }
 
-TEST(FavoritesManager, StarShowsAndChangesTheState)
-{
-    struct Target : FavoriteTarget
-    {
-        void addToFavorite() override { heard += u'+'; }
-        void removeFromFavorite() override { heard += u'-'; }
-        QString heard;
-    } target;
-    RecipesFixture program;
-    const Dish &dish = program.addDish(QStringLiteral("Суп"), {});
-    const auto star = favorites().favoriteBarButtonItemForItem(dish, &target);
-    EXPECT_EQ(star->image(), QStringLiteral("star_fav_empty_icon.png"));
-    star->trigger();
-    favorites().addDishToFavorite(dish);
-    const auto full = favorites().favoriteBarButtonItemForItem(dish, &target);
-    EXPECT_EQ(full->image(), QStringLiteral("star_fav_icon.png"));
-    full->trigger();
-    EXPECT_EQ(target.heard, QStringLiteral("+-"));
-}
-
-class FavoritesScreenTest : public testing::Test
+class FavoritesScreenTest : public RecipesWindow
 {
 protected:
     FavoritesScreenTest()
@@ -136,19 +113,6 @@ protected:
         program.addDish(QStringLiteral("Щи"), QStringLiteral("0"));
         program.save();
     }
-    ~FavoritesScreenTest() override
-    {
-        Window::sharedWindow().setRootViewController(nullptr);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-    FavoritesViewController &show(std::unique_ptr<FavoritesViewController> screen)
-    {
-        FavoritesViewController &shown = *screen;
-        auto root = std::make_unique<NavigationController>(std::move(screen));
-        stack = root.get();
-        Window::sharedWindow().setRootViewController(std::move(root));
-        return shown;
-    }
     FavoritesViewController &showToAdd(int period, AddDishDelegate *delegate)
     {
         auto made = std::make_unique<FavoritesViewController>();
@@ -158,9 +122,6 @@ protected:
         made->setDelegate(delegate);
         return show(std::move(made));
     }
-
-    RecipesFixture program;
-    NavigationController *stack = nullptr;
 };
 
 TEST_F(FavoritesScreenTest, GroupsByFirstLetter)
@@ -235,67 +196,14 @@ TEST_F(FavoritesScreenTest, AddModeOffersThePhaseAndMarksWhatIsPlanned)
     EXPECT_EQ(shown(showToAdd(3, &delegate)), QString());
 }
 
-TEST_F(FavoritesScreenTest, CheckMarksOfTheListAndOfTheDishAgree)
-{
-    for (const AddingDelegate::Into into :
-         {AddingDelegate::Into::Nothing, AddingDelegate::Into::Journal, AddingDelegate::Into::Plan}) {
-        SCOPED_TRACE(static_cast<int>(into));
-        const bool taken = into != AddingDelegate::Into::Nothing;
-        AddingDelegate delegate(program, into);
-        FavoritesViewController &screen = showToAdd(0, &delegate);
-        EXPECT_EQ(shown(screen), QStringLiteral("[А] Арбуз [Б] Бульон блины"));
-        const auto check = [this] { return stack->topViewController()->rightBarButtonItems().value(0); };
-        const auto isSelected = [&] { return check()->image() == QStringLiteral("checkmarkButton_selected.png"); };
-        screen.selectRow(1, 1);
-        EXPECT_FALSE(isSelected());
-        check()->trigger();
-        check()->trigger();
-        EXPECT_EQ(isSelected(), taken);
-        stack->popViewController(false);
-        EXPECT_EQ(shown(screen),
-                  QStringLiteral("[А] Арбуз [Б] Бульон блины") + (taken ? QStringLiteral("!") : QString()));
-        screen.touchAccessory(0, 0);
-        screen.selectRow(0, 0);
-        EXPECT_EQ(isSelected(), taken);
-        EXPECT_EQ(delegate.added.size(), 3) << "every touch is heard";
-    }
-}
-
-TEST_F(FavoritesScreenTest, ADishDeletedOnItsScreenLeavesTheList)
-{
-    for (const char *name : {"Борщ", "7 трав"})
-        program.dish(name).setUserCreated(true);
-    program.save();
-    FavoritesViewController &screen = show(std::make_unique<FavoritesViewController>());
-    for (const auto &[row, left] : {std::pair(IndexPath{3, 0}, "[7] 7 трав [Ё] Ёжики [А] Арбуз [Б] Бульон блины"),
-                                    {IndexPath{0, 0}, "[Ё] Ёжики [А] Арбуз [Б] Бульон блины"}}) {
-        screen.selectRow(row.section, row.row);
-        dynamic_cast<DishDetailViewController &>(*stack->topViewController()).deleteDish();
-        EXPECT_EQ(stack->topViewController(), &screen);
-        EXPECT_EQ(shown(screen).toStdString(), left);
-    }
-    EXPECT_EQ(favorites().count(), 6) << "the names stay";
-}
-
 TEST(Favorites, ShowASmallPhotoWhereThereIsOne)
 {
-    const QString shipped = TestPlatform().platform().resourcesFolder();
-    const QTemporaryDir folder;
-    for (const char *each : {"ru.lproj", "images"})
-        ASSERT_TRUE(QDir(folder.path()).mkpath(QString::fromLatin1(each)));
-    const QString table = QStringLiteral("/ru.lproj/Localizable.strings");
-    ASSERT_TRUE(QFile::copy(shipped + table, folder.path() + table));
-    for (const char *each : {"images/a_icon.jpg", "secret_icon.jpg"}) {
-        QFile photo(folder.filePath(QString::fromLatin1(each)));
-        ASSERT_TRUE(photo.open(QIODevice::WriteOnly));
-    }
-    TestPlatform::Options options;
-    options.resourcesFolder = folder.path();
-    RecipesFixture program(options);
-    for (const char *name : {"а", "б", "в", "г"}) {
-        Dish &dish = program.addDish(QString::fromUtf8(name), {});
-        favorites().addDishToFavorite(dish);
-    }
+    const ShopResources resources;
+    resources.write(QStringLiteral("images/a_icon.jpg"), {});
+    resources.write(QStringLiteral("secret_icon.jpg"), {});
+    RecipesFixture program({.resourcesFolder = resources.path()});
+    for (const char *name : {"а", "б", "в", "г"})
+        favorites().addDishToFavorite(program.addDish(QString::fromUtf8(name), {}));
     program.dish("а").setDishID(QStringLiteral("a"));
     program.dish("б").setDishID(QStringLiteral("b"));
     program.dish("г").setDishID(QStringLiteral("../secret"));

@@ -1,7 +1,5 @@
 #include "ShoppingFixture.h"
 
-#include "components/PopoverController.h"
-#include "recipes/IngredientsInfoViewController.h"
 #include "recipes/IngredientsViewController.h"
 
 namespace kesto::test
@@ -46,19 +44,11 @@ struct Products
     IngredientsViewController *screen = nullptr;
 };
 
-QStringList words(std::initializer_list<const char *> texts)
-{
-    QStringList list;
-    for (const char *text : texts)
-        list.append(utf8(text));
-    return list;
-}
-
 TEST(Products, AreListedWithTheirKindAndTheLettersOfTheirPhases)
 {
-    EXPECT_EQ(Products("en").shown(), words({"Quark:S"}));
+    EXPECT_EQ(Products("en").shown(), texts({"Quark:S"}));
     const Products products;
-    EXPECT_EQ(products.shown(), words({"Творог:A k", "Сахар", "Сыр - нежирный:С K", "отруби:A k K С", "Соус:k"}))
+    EXPECT_EQ(products.shown(), texts({"Творог:A k", "Сахар", "Сыр - нежирный:С K", "отруби:A k K С", "Соус:k"}))
         << "in file order";
     const TableRow cheese = products.screen->cellForRow({0, 2});
     EXPECT_EQ(cheese.image, QStringLiteral("ing_cat_2.png"));
@@ -81,16 +71,16 @@ TEST(Products, AreNarrowedToAPhaseAndSearched)
         const char *search;
         QStringList found;
     } cases[] = {
-        {1, "", words({"Творог:A k", "отруби:A k K С"})},
-        {2, "", words({"Творог:A k", "отруби:A k K С", "Соус:k"})},
-        {3, "", words({"Сыр - нежирный:С K", "отруби:A k K С"})},
-        {4, "", words({"Сыр - нежирный:С K", "отруби:A k K С"})},
-        {4, "Р", words({"Сыр - нежирный:С K", "отруби:A k K С"})},
+        {1, "", texts({"Творог:A k", "отруби:A k K С"})},
+        {2, "", texts({"Творог:A k", "отруби:A k K С", "Соус:k"})},
+        {3, "", texts({"Сыр - нежирный:С K", "отруби:A k K С"})},
+        {4, "", texts({"Сыр - нежирный:С K", "отруби:A k K С"})},
+        {4, "Р", texts({"Сыр - нежирный:С K", "отруби:A k K С"})},
         {1, "С", {}},
-        {0, "С", words({"Сахар", "Сыр - нежирный:С K", "Соус:k"})},
+        {0, "С", texts({"Сахар", "Сыр - нежирный:С K", "Соус:k"})},
         {0, "  ", {}},
         {0, "🥚", {}},
-        {0, "", words({"Творог:A k", "Сахар", "Сыр - нежирный:С K", "отруби:A k K С", "Соус:k"})},
+        {0, "", texts({"Творог:A k", "Сахар", "Сыр - нежирный:С K", "отруби:A k K С", "Соус:k"})},
     };
     for (const auto &[scope, search, found] : cases) {
         screen.setSearchText(utf8(search));
@@ -118,23 +108,6 @@ TEST(Products, GoToTheShoppingListWhenAsked)
     screen.endSearch(); // the list under the question changes
     ShoppingFixture::answer("Добавить");
     EXPECT_EQ(products.program->cart(), QStringList{QStringLiteral("Сыр")}) << "the rules of every addition hold";
-}
-
-TEST(Products, HaveALegend)
-{
-    const Products products;
-    ASSERT_EQ(images(products.screen->rightBarButtonItems()), QStringList{QStringLiteral("question")});
-    products.screen->rightBarButtonItems().constFirst()->trigger();
-    const auto popovers = ShoppingFixture::window().popovers();
-    ASSERT_EQ(popovers.size(), 1);
-    auto *legend = qobject_cast<IngredientsInfoViewController *>(popovers[0]->content());
-    ASSERT_NE(legend, nullptr);
-    QStringList rows;
-    for (const TableRow &row : legend->table()->section(0).rows)
-        rows.append((row.badges.isEmpty() ? row.image : row.badges[0].text) + u' ' + row.title);
-    EXPECT_EQ(rows, words({"ing_cat_0.png Разрешённые продукты", "ing_cat_1.png Запрещённые продукты",
-                           "ing_cat_2.png Допустимые (2 продукта в день)", "ing_cat_3.png Добавки", "A Атака",
-                           "k Круиз", "K Консолидация", "С Стабилизация"}));
 }
 
 TEST(Products, AreNoneWhereTheListIsMissing)

@@ -72,6 +72,30 @@ public:
     }
 };
 
+/// Recipes in a window.
+class RecipesWindow : public testing::Test
+{
+protected:
+    ~RecipesWindow() override
+    {
+        Window::sharedWindow().setRootViewController(nullptr);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    /// On a stack of its own.
+    template <class Screen>
+    Screen &show(std::unique_ptr<Screen> screen)
+    {
+        Screen &shown = *screen;
+        auto root = std::make_unique<NavigationController>(std::move(screen));
+        stack = root.get();
+        Window::sharedWindow().setRootViewController(std::move(root));
+        return shown;
+    }
+
+    RecipesFixture program;
+    NavigationController *stack = nullptr;
+};
+
 /// Puts what it is given into the journal or into the plan of the day, once each, or refuses.
 struct AddingDelegate : AddDishDelegate
 {
