@@ -22,10 +22,10 @@ namespace kesto::test
 namespace
 {
 
-QVariantList listOf(const QString &lines)
+QVariantList listOf(const char *lines)
 {
     QVariantList list;
-    for (const QString &line : lines.split(QStringLiteral(", "), Qt::SkipEmptyParts))
+    for (const QString &line : QString::fromUtf8(lines).split(QStringLiteral(", "), Qt::SkipEmptyParts))
         list.append(line);
     return list;
 }
@@ -45,9 +45,9 @@ ManagedObjectContext &ImportFixture::context() { return *CoreDataManager::shared
 
 void ImportFixture::restart() { platform_->restart(); }
 
-void ImportFixture::writeResource(const QString &name, const QByteArray &bytes)
+void ImportFixture::writeResource(const char *name, const QByteArray &bytes)
 {
-    QFile file(resources_.filePath(name));
+    QFile file(resources_.filePath(QLatin1String(name)));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
 }
 
@@ -65,11 +65,11 @@ QStringList ImportFixture::parse()
     return log.take();
 }
 
-QVariantMap ImportFixture::record(const QString &dishID, const QString &linesRU, const QString &linesENG)
+QVariantMap ImportFixture::record(const char *dishID, const char *linesRU, const char *linesENG)
 {
-    return {{QStringLiteral("dishID"), dishID},
-            {QStringLiteral("nameRU"), QStringLiteral("Блюдо ") + dishID},
-            {QStringLiteral("nameENG"), QStringLiteral("Dish ") + dishID},
+    return {{QStringLiteral("dishID"), QLatin1String(dishID)},
+            {QStringLiteral("nameRU"), QStringLiteral("Блюдо ") + QLatin1String(dishID)},
+            {QStringLiteral("nameENG"), QStringLiteral("Dish ") + QLatin1String(dishID)},
             {QStringLiteral("dietPeriod"), QStringLiteral("1, 2, 3")},
             {QStringLiteral("recipeRU"), QStringLiteral("Сварить. Подать.")},
             {QStringLiteral("recipeENG"), QStringLiteral("Boil. Serve.")},
@@ -79,17 +79,17 @@ QVariantMap ImportFixture::record(const QString &dishID, const QString &linesRU,
             {QStringLiteral("ingredientsENG"), listOf(linesENG)}};
 }
 
-Dish &ImportFixture::dish(const QString &dishID)
+Dish &ImportFixture::dish(const char *dishID)
 {
     FetchRequest request;
-    request.predicate = attribute("dishID") == dishID;
+    request.predicate = attribute("dishID") == QLatin1String(dishID);
     const std::vector<Dish *> found = context().fetch<Dish>(request);
     if (found.size() != 1)
-        throw std::runtime_error("not exactly one dish " + dishID.toStdString());
+        throw std::runtime_error(std::string("not exactly one dish ") + dishID);
     return *found.front();
 }
 
-QString ImportFixture::outline(std::vector<Ingredient *> lines)
+std::string ImportFixture::outline(std::vector<Ingredient *> lines)
 {
     std::stable_sort(lines.begin(), lines.end(), [](const Ingredient *left, const Ingredient *right) {
         return left->displayOrder() < right->displayOrder();
@@ -99,7 +99,7 @@ QString ImportFixture::outline(std::vector<Ingredient *> lines)
         const std::optional<int> order = line->displayOrder();
         texts.append((order ? QString::number(*order) : QStringLiteral("-")) + u' ' + line->name());
     }
-    return texts.join(QStringLiteral(", "));
+    return texts.join(QStringLiteral(", ")).toStdString();
 }
 
 QStringList ImportFixture::content()
@@ -116,8 +116,8 @@ QStringList ImportFixture::content()
                                 category != nullptr ? category->nameRU() : QStringLiteral("(no category)"),
                                 dish->recipeNew().value_or(false) ? QStringLiteral("new") : QStringLiteral("seen"),
                                 dish->userCreated().value_or(false) ? QStringLiteral("own") : QStringLiteral("shipped"),
-                                outline(dish->ingredientsRU()),
-                                outline(dish->ingredientsENG())};
+                                QString::fromStdString(outline(dish->ingredientsRU())),
+                                QString::fromStdString(outline(dish->ingredientsENG()))};
         texts.append(parts.join(u'|'));
     }
     for (const DishesCategory *category : context().fetch<DishesCategory>())

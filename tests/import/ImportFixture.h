@@ -30,19 +30,18 @@ protected:
     /// Ends the program and starts it again: what is read then comes from the store.
     void restart();
 
-    void writeResource(const QString &name, const QByteArray &bytes);
+    void writeResource(const char *name, const QByteArray &bytes);
     /// Writes "recipes.plist" and imports it.
     void import(const QVariantList &recipes);
     /// Imports what "recipes.plist" holds; the log lines of it.
     QStringList parse();
 
     /// A record of the catalogue with all its keys; the lists of lines are "a, b, c".
-    [[nodiscard]] static QVariantMap record(const QString &dishID, const QString &linesRU,
-                                            const QString &linesENG = {});
+    [[nodiscard]] static QVariantMap record(const char *dishID, const char *linesRU, const char *linesENG = "");
     /// The dish of an identifier; there is exactly one.
-    [[nodiscard]] Dish &dish(const QString &dishID);
+    [[nodiscard]] Dish &dish(const char *dishID);
     /// "0 name, 1 name" in the order of the lines' positions, "-" for an absent one.
-    [[nodiscard]] static QString outline(std::vector<Ingredient *> lines);
+    [[nodiscard]] static std::string outline(std::vector<Ingredient *> lines);
     /// All dishes, categories, lines and purchases as texts, in the order of insertion.
     [[nodiscard]] QStringList content();
 

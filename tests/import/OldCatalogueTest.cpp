@@ -30,10 +30,7 @@ QByteArray oldRecord(const QByteArray &identifier, const QByteArray &phases = "1
 class OldCatalogueTest : public ImportFixture
 {
 protected:
-    void write(const QList<QByteArray> &records)
-    {
-        writeResource(QStringLiteral("dishes.json"), "[" + records.join(",") + "]");
-    }
+    void write(const QList<QByteArray> &records) { writeResource("dishes.json", "[" + records.join(",") + "]"); }
 
     QStringList oldParse()
     {
@@ -71,7 +68,7 @@ TEST_F(OldCatalogueTest, ATextWithoutRecordsHoldsNone)
 {
     EXPECT_TRUE(SQLiteParser::parsedRecipesFromFile(QStringLiteral("missing")).isEmpty());
     for (const char *text : {"", "[]", "{\"Name\":\"x\"}", "ID: x"}) {
-        writeResource(QStringLiteral("dishes.json"), text);
+        writeResource("dishes.json", text);
         EXPECT_TRUE(SQLiteParser::parsedRecipesFromFile(kDishes).isEmpty()) << text;
     }
 }
@@ -105,7 +102,7 @@ TEST_F(OldCatalogueTest, PhasesCountFromZero)
     for (const auto &[written, stored] : cases) {
         write({oldRecord("x1", written)});
         (void)oldParse();
-        EXPECT_EQ(dish(QStringLiteral("x1")).dietPeriod(), stored) << written.toStdString();
+        EXPECT_EQ(dish("x1").dietPeriod(), stored) << written.toStdString();
     }
 }
 
@@ -116,14 +113,14 @@ TEST_F(OldCatalogueTest, ImportsUpdatesAndLeavesThePositionsAbsent)
     EXPECT_EQ(lines.first(), QStringLiteral("start parsing"));
     EXPECT_EQ(lines.last(), QStringLiteral("end parsing"));
     restart();
-    Dish &imported = dish(QStringLiteral("x1"));
+    Dish &imported = dish("x1");
     EXPECT_EQ(imported.nameRU(), QStringLiteral("Соус"));
     EXPECT_EQ(imported.nameENG(), QStringLiteral("Sauce"));
     EXPECT_EQ(imported.recipeRU(), QStringLiteral("Смешать.\\nПодать."));
     EXPECT_EQ(imported.recipeNew(), true);
     EXPECT_EQ(imported.dishCategory()->displayOrder(), 8U);
-    EXPECT_EQ(outline(imported.ingredientsRU()), QStringLiteral("- А - 1, - Б"));
-    EXPECT_EQ(outline(imported.ingredientsENG()), QStringLiteral("- A - 1, - B"));
+    EXPECT_EQ(outline(imported.ingredientsRU()), "- А - 1, - Б");
+    EXPECT_EQ(outline(imported.ingredientsENG()), "- A - 1, - B");
 
     // The line of the shopping list goes along with an update.
     imported.setRecipeNew(false);
@@ -135,11 +132,11 @@ TEST_F(OldCatalogueTest, ImportsUpdatesAndLeavesThePositionsAbsent)
     write({oldRecord("x1", "34", "\"Б\", \"А - 1\", \"В\"", "\"C\"")});
     (void)oldParse();
     restart();
-    const Dish &updated = dish(QStringLiteral("x1"));
+    const Dish &updated = dish("x1");
     EXPECT_EQ(updated.recipeNew(), false);
     EXPECT_EQ(updated.dietPeriod(), QStringLiteral("23"));
-    EXPECT_EQ(outline(updated.ingredientsRU()), QStringLiteral("- Б, - А - 1, - В"));
-    EXPECT_EQ(outline(updated.ingredientsENG()), QStringLiteral("- C"));
+    EXPECT_EQ(outline(updated.ingredientsRU()), "- Б, - А - 1, - В");
+    EXPECT_EQ(outline(updated.ingredientsENG()), "- C");
     EXPECT_EQ(context().fetch<Ingredient>().size(), 4U);
     const Ingredient *bought = context().fetch<PurhaseIngredient>().front()->ingredient();
     ASSERT_NE(bought, nullptr);
@@ -149,23 +146,12 @@ TEST_F(OldCatalogueTest, ImportsUpdatesAndLeavesThePositionsAbsent)
 
 TEST_F(OldCatalogueTest, ADishOfTheNewCatalogueIsTheSameDish)
 {
-    import({record(QStringLiteral("x1"), QStringLiteral("Старая"), QStringLiteral("Old"))});
+    import({record("x1", "Старая", "Old")});
     write({oldRecord("x1")});
     (void)oldParse();
-    EXPECT_EQ(dish(QStringLiteral("x1")).nameRU(), QStringLiteral("Соус"));
-    EXPECT_EQ(outline(dish(QStringLiteral("x1")).ingredientsRU()), QStringLiteral("- А - 1, - Б"));
-    import({record(QStringLiteral("x1"), QStringLiteral("Новая"), QStringLiteral("New"))});
-    EXPECT_EQ(outline(dish(QStringLiteral("x1")).ingredientsRU()), QStringLiteral("0 Новая"));
+    EXPECT_EQ(dish("x1").nameRU(), QStringLiteral("Соус"));
+    EXPECT_EQ(outline(dish("x1").ingredientsRU()), "- А - 1, - Б");
+    import({record("x1", "Новая", "New")});
+    EXPECT_EQ(outline(dish("x1").ingredientsRU()), "0 Новая");
     EXPECT_EQ(context().fetch<Ingredient>().size(), 2U);
-}
-
-TEST_F(OldCatalogueTest, LinesAreLinkedThroughTheNamedRelationship)
-{
-    auto &own = context().insert<Dish>();
-    SQLiteParser::addIngredientsToDish(&own, {QStringLiteral("А"), QStringLiteral("Б")}, QStringLiteral("dishRU"),
-                                       context());
-    SQLiteParser::addIngredientsToDish(&own, {QStringLiteral("A")}, QStringLiteral("dishENG"), context());
-    SQLiteParser::addIngredientsToDish(&own, {}, QStringLiteral("dishENG"), context());
-    EXPECT_EQ(outline(own.ingredientsRU()), QStringLiteral("- А, - Б"));
-    EXPECT_EQ(outline(own.ingredientsENG()), QStringLiteral("- A"));
 }

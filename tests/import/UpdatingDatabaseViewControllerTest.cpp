@@ -58,7 +58,7 @@ protected:
 
     void writeCatalogue(const QVariantList &recipes)
     {
-        writeResource(QStringLiteral("recipes.plist"), PropertyList::serialize(recipes).value());
+        writeResource("recipes.plist", PropertyList::serialize(recipes).value());
     }
 
     [[nodiscard]] QVariant storedVersion() const
@@ -75,7 +75,7 @@ protected:
 
 TEST_F(UpdatingDatabaseTest, WaitsHalfASecondThenImportsRecordsTheVersionAndLeaves)
 {
-    writeCatalogue({record(QStringLiteral("1"), QStringLiteral("a, b")), record(QStringLiteral("2"), {})});
+    writeCatalogue({record("1", "a, b"), record("2", "")});
     UpdatingDatabaseViewController &screen = present(QStringLiteral("1.2"));
     EXPECT_TRUE(screen.timer().isActive());
     EXPECT_EQ(screen.timer().interval(), 500);
@@ -95,7 +95,7 @@ TEST_F(UpdatingDatabaseTest, TheVersionIsRecordedOnlyWhenTheImportIsOver)
 {
     static QStringList moments;
     moments.clear();
-    writeCatalogue({record(QStringLiteral("1"), QStringLiteral("a"))});
+    writeCatalogue({record("1", "a")});
     UpdatingDatabaseViewController &screen = present(QStringLiteral("1.2"));
     screen.timer().setInterval(0);
     const QtMessageHandler before =
@@ -114,7 +114,7 @@ TEST_F(UpdatingDatabaseTest, TheVersionIsRecordedOnlyWhenTheImportIsOver)
 
 TEST_F(UpdatingDatabaseTest, AnImportThatWasCutShortIsDoneAtTheNextStart)
 {
-    writeCatalogue({record(QStringLiteral("1"), QStringLiteral("a"))});
+    writeCatalogue({record("1", "a")});
     (void)present(QStringLiteral("1.2"));
     leave();
     restart();
@@ -133,7 +133,7 @@ TEST_F(UpdatingDatabaseTest, AnUnreadableCatalogueAndAFullDiskStillEndTheWait)
     EXPECT_EQ(storedVersion(), QVariant(QStringLiteral("1")));
 
     leave();
-    writeCatalogue({record(QStringLiteral("1"), QStringLiteral("a"))});
+    writeCatalogue({record("1", "a")});
     makeReadOnly(true);
     const QStringList failed = runToTheEnd(present(QStringLiteral("2"), 1));
     makeReadOnly(false);
