@@ -58,17 +58,11 @@ public:
     void shop() const;
 
 private:
-    void touches(QAccessible::Role role, const QString &name) const
-    {
-        ASSERT_TRUE(user_.touches(role, name)) << "no " << name.toStdString() << " in " << user_.view();
-    }
-    void waitsToSee(QAccessible::Role role, const QString &name) const
-    {
-        ASSERT_TRUE(user_.waitsToSee(role, name)) << "no " << name.toStdString() << " in " << user_.view();
-    }
+    void touches(QAccessible::Role role, const QString &name) const { ASSERT_TRUE(user_.touches(role, name)); }
+    void waitsToSee(QAccessible::Role role, const QString &name) const { ASSERT_TRUE(user_.waitsToSee(role, name)); }
     void scrollsTo(QAccessible::Role role, const QString &name, QPointF place = overDay) const
     {
-        ASSERT_TRUE(user_.scrollsTo(role, name, place)) << "no " << name.toStdString() << " in " << user_.view();
+        ASSERT_TRUE(user_.scrollsTo(role, name, place));
     }
     void back(const char *title) const
     {
@@ -98,8 +92,8 @@ void MainJobPerson::startDiet() const
     touches(button, u("Начать"));
     waitsToSee(heading, u("Календарь диеты"));
     waitsToSee(button, u("2 марта 2026, Атака, Ч/Б"));
-    ASSERT_TRUE(user_.sees(button, u("8 марта 2026, Атака, Ч/Б"))) << user_.view();
-    ASSERT_TRUE(user_.sees(button, u("9 марта 2026, Круиз"))) << user_.view();
+    ASSERT_TRUE(user_.sees(button, u("8 марта 2026, Атака, Ч/Б")));
+    ASSERT_TRUE(user_.sees(button, u("9 марта 2026, Круиз")));
 }
 
 void MainJobPerson::openToday() const
@@ -133,9 +127,9 @@ void MainJobPerson::replaceFirstDish() const
 {
     const QString gone = plannedDishes().constFirst();
     scrollsTo(row, gone);
-    ASSERT_TRUE(user_.draws(row, gone, QPoint(-150, 0))) << user_.view();
+    ASSERT_TRUE(user_.draws(row, gone, QPoint(-150, 0)));
     touches(button, u("Удалить"));
-    ASSERT_TRUE(user_.waitsUntilGone(row, gone)) << user_.view();
+    ASSERT_TRUE(user_.waitsUntilGone(row, gone));
 
     scrollsTo(button, u("Добавить блюдо"));
     touches(button, u("Добавить блюдо"));
@@ -145,7 +139,7 @@ void MainJobPerson::replaceFirstDish() const
     touches(button, u("Добавить в план дня: ") + soup);
     back("Добавить блюдо");
     touches(button, u("Закрыть"));
-    ASSERT_TRUE(user_.waitsUntilGone(heading, u("Добавить блюдо"))) << user_.view();
+    ASSERT_TRUE(user_.waitsUntilGone(heading, u("Добавить блюдо")));
     scrollsTo(row, soup);
     ASSERT_EQ(plannedDishes().constLast(), soup);
     ASSERT_EQ(plannedDishes().size(), 6);
@@ -157,8 +151,7 @@ void MainJobPerson::moveFirstDishToTheEnd() const
     touches(button, u("Изменить"));
     waitsToSee(button, u("Готово"));
     ASSERT_TRUE(
-        user_.drags(button, u("Переместить ") + dishes.constFirst(), button, u("Переместить ") + dishes.constLast()))
-        << user_.view();
+        user_.drags(button, u("Переместить ") + dishes.constFirst(), button, u("Переместить ") + dishes.constLast()));
     touches(button, u("Готово"));
     waitsToSee(button, u("Изменить"));
     dishes.append(dishes.takeFirst());
@@ -204,9 +197,9 @@ void MainJobPerson::shop() const
     touches(button, u("Добавить"));
     waitsToSee(checkBox, u("Чай зелёный"));
 
-    ASSERT_TRUE(user_.draws(checkBox, before[1], QPoint(-150, 0))) << user_.view();
+    ASSERT_TRUE(user_.draws(checkBox, before[1], QPoint(-150, 0)));
     touches(button, u("Удалить"));
-    ASSERT_TRUE(user_.waitsUntilGone(checkBox, before[1])) << user_.view();
+    ASSERT_TRUE(user_.waitsUntilGone(checkBox, before[1]));
     ASSERT_EQ(shoppingList().size(), before.size());
 }
 

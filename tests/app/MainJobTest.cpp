@@ -56,9 +56,9 @@ TEST_P(MainJobTest, EverythingIsThereAfterAKill)
                                                             &error);
     ASSERT_NE(program, nullptr) << error.toStdString();
     const Person user(program->view());
-    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, QStringLiteral("Календарь диеты"))) << user.view();
-    EXPECT_TRUE(user.waitsToSee(QAccessible::Button, QStringLiteral("2 марта 2026, Атака, Ч/Б"))) << user.view();
-    EXPECT_TRUE(user.waitsToSee(QAccessible::ListItem, plan[0])) << user.view();
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, QStringLiteral("Календарь диеты")));
+    EXPECT_TRUE(user.waitsToSee(QAccessible::Button, QStringLiteral("2 марта 2026, Атака, Ч/Б")));
+    EXPECT_TRUE(user.waitsToSee(QAccessible::ListItem, plan[0]));
     EXPECT_EQ(plannedDishes(), plan);
     EXPECT_EQ(shoppingList(), printed(output, QStringLiteral("LIST")));
     EXPECT_EQ(FavoritesManager::sharedManager().dishesIDS(), printed(output, QStringLiteral("LIKED")));

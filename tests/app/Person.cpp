@@ -52,14 +52,14 @@ QAccessibleInterface *Person::find(QAccessible::Role role, const QString &name) 
 
 bool Person::waitFor(const std::function<bool()> &condition) { return QTest::qWaitFor(condition, 10'000); }
 
-bool Person::waitsToSee(QAccessible::Role role, const QString &name) const
+testing::AssertionResult Person::waitsToSee(QAccessible::Role role, const QString &name) const
 {
-    return waitFor([&] { return sees(role, name); });
+    return told(waitFor([&] { return find(role, name) != nullptr; }), name);
 }
 
-bool Person::waitsUntilGone(QAccessible::Role role, const QString &name) const
+testing::AssertionResult Person::waitsUntilGone(QAccessible::Role role, const QString &name) const
 {
-    return waitFor([&] { return !sees(role, name); });
+    return told(waitFor([&] { return find(role, name) == nullptr; }), name);
 }
 
 QRect Person::placeAtRest(QAccessible::Role role, const QString &name) const
@@ -74,49 +74,52 @@ QRect Person::placeAtRest(QAccessible::Role role, const QString &name) const
     return rests ? QRect(window_.mapFromGlobal(before.topLeft()), before.size()) : QRect();
 }
 
-bool Person::touches(QAccessible::Role role, const QString &name) const
+testing::AssertionResult Person::touches(QAccessible::Role role, const QString &name) const
 {
     const QRect place = placeAtRest(role, name);
     if (place.isValid())
         QTest::mouseClick(&window_, Qt::LeftButton, {}, place.center());
-    return place.isValid();
+    return told(place.isValid(), name);
 }
 
-bool Person::draws(QAccessible::Role role, const QString &name, const QPoint &along) const
+testing::AssertionResult Person::draws(QAccessible::Role role, const QString &name, const QPoint &along) const
 {
     const QRect place = placeAtRest(role, name);
     if (!place.isValid())
-        return false;
+        return told(false, name);
     constexpr int steps = 10;
     QTest::mousePress(&window_, Qt::LeftButton, {}, place.center());
     for (int step = 1; step <= steps; ++step)
         QTest::mouseMove(&window_, place.center() + along * step / steps, 10);
     QTest::mouseRelease(&window_, Qt::LeftButton, {}, place.center() + along, 10);
     QCoreApplication::processEvents();
-    return true;
+    return testing::AssertionSuccess();
 }
 
-bool Person::drags(QAccessible::Role role, const QString &name, QAccessible::Role toRole, const QString &toName) const
+testing::AssertionResult Person::drags(QAccessible::Role role, const QString &name, QAccessible::Role toRole,
+                                       const QString &toName) const
 {
     const QRect from = placeAtRest(role, name);
     const QRect to = placeAtRest(toRole, toName);
-    return from.isValid() && to.isValid() && draws(role, name, QPoint(0, to.center().y() - from.center().y()));
+    if (!from.isValid() || !to.isValid())
+        return told(false, name);
+    return draws(role, name, QPoint(0, to.center().y() - from.center().y()));
 }
 
-bool Person::scrollsTo(QAccessible::Role role, const QString &name, QPointF place) const
+testing::AssertionResult Person::scrollsTo(QAccessible::Role role, const QString &name, QPointF place) const
 {
     const QPointF at(window_.width() * place.x(), window_.height() * place.y());
     for (const int turn : {-120, 120}) {
         for (int i = 0; i < 60; ++i) {
-            if (sees(role, name))
-                return true;
+            if (find(role, name) != nullptr)
+                return testing::AssertionSuccess();
             QWheelEvent event(at, window_.mapToGlobal(at), {}, QPoint(0, turn), Qt::NoButton, Qt::NoModifier,
                               Qt::NoScrollPhase, false);
             QCoreApplication::sendEvent(&window_, &event);
             QTest::qWait(20);
         }
     }
-    return false;
+    return told(false, name);
 }
 
 void Person::types(const QString &text) const
@@ -153,14 +156,16 @@ QString Person::focus() const
     return focused != nullptr ? nameWithin(*focused) : QString();
 }
 
-std::string Person::view() const
+testing::AssertionResult Person::told(bool done, const QString &name) const
 {
-    std::string lines = "what can be seen:\n";
+    if (done)
+        return testing::AssertionSuccess();
+    std::string lines = name.toStdString() + "; what can be seen:\n";
     search([&](QAccessibleInterface &one) {
         lines += std::to_string(one.role()) + ": " + one.text(QAccessible::Name).toStdString() + '\n';
         return false;
     });
-    return lines;
+    return testing::AssertionFailure() << lines;
 }
 
 } // namespace kesto::test

@@ -60,17 +60,17 @@ TEST_F(RecipesWindowTest, BrowsesTheGridByKeys)
 {
     startReady(Device::Phone, QSize(390, 844));
     const Person user = person();
-    ASSERT_TRUE(user.touches(QAccessible::Button, QStringLiteral("Меню"))) << user.view();
-    ASSERT_TRUE(user.touches(QAccessible::ListItem, QStringLiteral("Рецепты блюд"))) << user.view();
-    ASSERT_TRUE(user.touches(QAccessible::ListItem, salads)) << user.view();
-    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, salads)) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::Button, QStringLiteral("Меню")));
+    ASSERT_TRUE(user.touches(QAccessible::ListItem, QStringLiteral("Рецепты блюд")));
+    ASSERT_TRUE(user.touches(QAccessible::ListItem, salads));
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, salads));
     ASSERT_TRUE(user.waitsUntilGone(QAccessible::Heading, QStringLiteral("Рецепты"))) << "the menu closes";
 
     DishesViewController same(0); // what the grid shows
     const QList<DishTile> &tiles = same.tiles()->tiles();
     ASSERT_GT(tiles.size(), 6);
     EXPECT_EQ(tiles[0].mark, QStringLiteral("Новое"));
-    ASSERT_TRUE(user.waitsToSee(QAccessible::ListItem, nameOf(tiles[0]))) << user.view();
+    ASSERT_TRUE(user.waitsToSee(QAccessible::ListItem, nameOf(tiles[0])));
     ASSERT_TRUE(tabsTo(user, nameOf(tiles[0]))) << user.focus().toStdString();
     for (const auto &[key, tile] : {std::pair(Qt::Key_Right, 1),
                                     {Qt::Key_Down, 3},
@@ -83,33 +83,33 @@ TEST_F(RecipesWindowTest, BrowsesTheGridByKeys)
         EXPECT_EQ(user.focus().toStdString(), nameOf(tiles[tile]).toStdString());
     }
     user.presses(Qt::Key_Return);
-    EXPECT_TRUE(user.waitsUntilGone(QAccessible::Heading, salads)) << user.view();
+    EXPECT_TRUE(user.waitsUntilGone(QAccessible::Heading, salads));
     user.presses(Qt::Key_Escape);
-    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, salads)) << user.view();
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, salads));
     DishTile opened = tiles[2];
     opened.mark = QString();
-    EXPECT_TRUE(user.waitsToSee(QAccessible::ListItem, nameOf(opened))) << user.view();
+    EXPECT_TRUE(user.waitsToSee(QAccessible::ListItem, nameOf(opened)));
 
     // The phases, by touch.
-    ASSERT_TRUE(user.touches(QAccessible::PageTab, QStringLiteral("Атака"))) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::Button, QStringLiteral("Атака")));
     same.updateToPeriod(1);
     ASSERT_GT(tiles.size(), 0);
-    EXPECT_TRUE(user.waitsToSee(QAccessible::ListItem, nameOf(tiles[0]))) << user.view();
+    EXPECT_TRUE(user.waitsToSee(QAccessible::ListItem, nameOf(tiles[0])));
 }
 
 TEST_F(RecipesWindowTest, ATabletBrowsesBesideTheCategories)
 {
     startReady(Device::Tablet, QSize(1180, 820));
     const Person user = person();
-    ASSERT_TRUE(user.touches(QAccessible::ListItem, QStringLiteral("Рецепты блюд"))) << user.view();
-    ASSERT_TRUE(user.touches(QAccessible::ListItem, salads)) << user.view();
-    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, salads)) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::ListItem, QStringLiteral("Рецепты блюд")));
+    ASSERT_TRUE(user.touches(QAccessible::ListItem, salads));
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, salads));
     EXPECT_TRUE(user.sees(QAccessible::Heading, QStringLiteral("Рецепты"))) << "the categories stay beside it";
-    ASSERT_TRUE(user.touches(QAccessible::Button, localized(QStringLiteral("filter")))) << user.view();
-    ASSERT_TRUE(user.touches(QAccessible::ListItem, QStringLiteral("Консол."))) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::Button, localized(QStringLiteral("filter"))));
+    ASSERT_TRUE(user.touches(QAccessible::ListItem, QStringLiteral("Консол.")));
     DishesViewController same(0);
     same.updateToPeriod(3);
-    EXPECT_TRUE(user.waitsToSee(QAccessible::ListItem, nameOf(same.tiles()->tiles()[0]))) << user.view();
+    EXPECT_TRUE(user.waitsToSee(QAccessible::ListItem, nameOf(same.tiles()->tiles()[0])));
     EXPECT_TRUE(user.waitsUntilGone(QAccessible::ListItem, QStringLiteral("Консол."))) << "the bubble closes";
 }
 
@@ -122,8 +122,8 @@ TEST_F(RecipesWindowTest, ABubbleOutOfABubbleLeavesItAsItIs)
     window.rootViewController()
         ->presentPopover(std::make_unique<NavigationController>(std::move(categories)), {})
         ->setSizeHint({400, 420});
-    ASSERT_TRUE(user.touches(QAccessible::ListItem, salads)) << user.view();
-    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, salads)) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::ListItem, salads));
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, salads));
     DishesViewController same(0, nullptr, 0);
     const QList<DishTile> &tiles = same.tiles()->tiles();
     ASSERT_GT(tiles.size(), 6);
@@ -139,8 +139,8 @@ TEST_F(RecipesWindowTest, ABubbleOutOfABubbleLeavesItAsItIs)
     ASSERT_GT(place, 0);
 
     const QString filter = localized(QStringLiteral("filter"));
-    ASSERT_TRUE(user.touches(QAccessible::Button, filter)) << user.view();
-    ASSERT_TRUE(user.waitsToSee(QAccessible::ListItem, QStringLiteral("Консол."))) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::Button, filter));
+    ASSERT_TRUE(user.waitsToSee(QAccessible::ListItem, QStringLiteral("Консол.")));
     EXPECT_EQ(window.popovers().size(), 2);
     ASSERT_FALSE(grid.isNull());
     EXPECT_EQ(grid->property("contentY").toReal(), place);
@@ -160,15 +160,15 @@ TEST_F(RecipesWindowTest, ABubbleOutOfABubbleLeavesItAsItIs)
     user.presses(Qt::Key_Home); // the keys are back in the bubble below
     EXPECT_NE(user.focus(), last);
 
-    ASSERT_TRUE(user.touches(QAccessible::Button, filter)) << user.view();
-    ASSERT_TRUE(user.touches(QAccessible::ListItem, QStringLiteral("Консол."))) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::Button, filter));
+    ASSERT_TRUE(user.touches(QAccessible::ListItem, QStringLiteral("Консол.")));
     same.updateToPeriod(3);
     ASSERT_GT(tiles.size(), 0);
-    EXPECT_TRUE(user.waitsToSee(QAccessible::ListItem, nameOf(tiles[0]))) << user.view();
+    EXPECT_TRUE(user.waitsToSee(QAccessible::ListItem, nameOf(tiles[0])));
     EXPECT_EQ(window.popovers().size(), 1);
     EXPECT_FALSE(grid.isNull());
     user.presses(Qt::Key_Escape); // to the categories, and out of the bubble
-    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, QStringLiteral("Добавить блюдо"))) << user.view();
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, QStringLiteral("Добавить блюдо")));
     user.presses(Qt::Key_Escape);
     EXPECT_TRUE(window.popovers().isEmpty());
 }
@@ -181,13 +181,13 @@ TEST_F(RecipesWindowTest, ChoosesDishesByTouchAndByKeys)
     auto categories = std::make_unique<DishesCategoriesViewController>(nullptr, 0);
     categories->setDelegate(&delegate);
     present(std::move(categories));
-    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, QStringLiteral("Добавить блюдо"))) << user.view();
-    ASSERT_TRUE(user.touches(QAccessible::ListItem, salads)) << user.view();
+    ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, QStringLiteral("Добавить блюдо")));
+    ASSERT_TRUE(user.touches(QAccessible::ListItem, salads));
     DishesViewController same(0, nullptr, 0);
     const QList<DishTile> &tiles = same.tiles()->tiles();
     ASSERT_GT(tiles.size(), 1);
     const QString check = QStringLiteral("Добавить в план дня: ");
-    ASSERT_TRUE(user.touches(QAccessible::Button, check + tiles[1].title)) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::Button, check + tiles[1].title));
     EXPECT_EQ(delegate.added, QStringList(tiles[1].title));
     ASSERT_TRUE(tabsTo(user, nameOf(tiles[0]))) << user.focus().toStdString();
     user.presses(Qt::Key_Space);
@@ -195,8 +195,8 @@ TEST_F(RecipesWindowTest, ChoosesDishesByTouchAndByKeys)
     EXPECT_TRUE(user.sees(QAccessible::Heading, salads)) << "a check opens nothing";
 
     user.presses(Qt::Key_Escape);
-    ASSERT_TRUE(user.touches(QAccessible::Button, QStringLiteral("Закрыть"))) << user.view();
-    ASSERT_TRUE(user.waitsUntilGone(QAccessible::Heading, QStringLiteral("Добавить блюдо"))) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::Button, QStringLiteral("Закрыть")));
+    ASSERT_TRUE(user.waitsUntilGone(QAccessible::Heading, QStringLiteral("Добавить блюдо")));
 
     // The favourites, likewise.
     const Dish &dish = *tiles[0].dish;
@@ -206,14 +206,14 @@ TEST_F(RecipesWindowTest, ChoosesDishesByTouchAndByKeys)
     favourites->setDelegate(&delegate);
     present(std::move(favourites));
     const QString row = dish.nameRU() + QStringLiteral(", Новое");
-    ASSERT_TRUE(user.waitsToSee(QAccessible::ListItem, row)) << user.view();
+    ASSERT_TRUE(user.waitsToSee(QAccessible::ListItem, row));
     ASSERT_TRUE(tabsTo(user, row)) << user.focus().toStdString();
     user.presses(Qt::Key_Space);
     EXPECT_EQ(delegate.added.size(), 3);
-    ASSERT_TRUE(user.touches(QAccessible::Button, check + dish.nameRU())) << user.view();
+    ASSERT_TRUE(user.touches(QAccessible::Button, check + dish.nameRU()));
     EXPECT_EQ(delegate.added.size(), 4);
     user.presses(Qt::Key_Return);
-    EXPECT_TRUE(user.waitsUntilGone(QAccessible::Heading, QStringLiteral("Избранные рецепты"))) << user.view();
+    EXPECT_TRUE(user.waitsUntilGone(QAccessible::Heading, QStringLiteral("Избранные рецепты")));
     EXPECT_EQ(delegate.added.size(), 4);
 }
 

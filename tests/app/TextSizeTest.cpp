@@ -53,22 +53,12 @@ protected:
     {
         return dynamic_cast<SideMenuContainer &>(*program_->window().rootViewController());
     }
-    /// What draws a screen.
-    static QQuickItem *viewOf(const ViewController &controller, QQuickItem &root)
-    {
-        if (root.property("controller").value<ViewController *>() == &controller)
-            return &root;
-        for (QQuickItem *child : root.childItems()) {
-            if (QQuickItem *found = viewOf(controller, *child))
-                return found;
-        }
-        return nullptr;
-    }
-
     /// Complains of every text that can't be read whole, and of every two that overlap.
     void expectReadable(const ViewController &controller)
     {
-        QQuickItem *view = viewOf(controller, *program_->view().contentItem());
+        QQuickItem *view = item(*program_->view().contentItem(), [&controller](const QQuickItem &each) {
+            return each.property("controller").value<ViewController *>() == &controller;
+        });
         ASSERT_NE(view, nullptr);
         texts_.clear();
         look(*view);
