@@ -2,8 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <iostream>
-
 using namespace kesto::test;
 using testing::Each;
 using testing::Ge;
@@ -21,7 +19,6 @@ const QStringList kCategories{QStringLiteral("Салаты"),
                               QStringLiteral("Блины"),
                               QStringLiteral("Напитки"),
                               QStringLiteral("Соусы")};
-constexpr std::array<const char *, 4> kPhaseNames{"Attack", "Cruise", "Consolidation", "Stabilization"};
 constexpr int kTolerated = 2;
 
 struct Counts
@@ -56,23 +53,10 @@ std::array<Counts, 9> countsByCategory()
 TEST(Catalogue, HoldsEnoughForEveryCategoryPhaseAndLanguage)
 {
     const std::array<Counts, 9> counts = countsByCategory();
-    Counts all;
-    const auto print = [](const QString &title, const Counts &row) {
-        QString line = title.leftJustified(22) + QString::number(row.dishes).rightJustified(7);
-        for (const int count : row.phases)
-            line += QString::number(count).rightJustified(15);
-        for (const int count : row.languages)
-            line += QString::number(count).rightJustified(9);
-        std::cout << line.toStdString() << '\n';
-    };
-    QString head = QStringLiteral("category").leftJustified(22) + QStringLiteral("dishes").rightJustified(7);
-    for (const char *phase : kPhaseNames)
-        head += QString::fromLatin1(phase).rightJustified(15);
-    std::cout << head.toStdString() << "  Russian  English\n";
+    int all = 0;
     for (size_t order = 0; order < counts.size(); ++order) {
         SCOPED_TRACE(kCategories[static_cast<qsizetype>(order)].toStdString());
         const Counts &row = counts[order];
-        print(kCategories[static_cast<qsizetype>(order)], row);
         EXPECT_GE(row.dishes, 30);
         EXPECT_THAT(row.languages, Each(row.dishes));
         // The days of Attack and Cruise are filled from these without asking the user.
@@ -81,15 +65,10 @@ TEST(Catalogue, HoldsEnoughForEveryCategoryPhaseAndLanguage)
             EXPECT_GE(row.phases[0], 14);
             EXPECT_GE(row.phases[1], 24);
         }
-        all.dishes += row.dishes;
-        for (size_t i = 0; i < row.phases.size(); ++i)
-            all.phases[i] += row.phases[i];
-        for (size_t i = 0; i < row.languages.size(); ++i)
-            all.languages[i] += row.languages[i];
+        all += row.dishes;
     }
-    print(QStringLiteral("all"), all);
-    EXPECT_GE(all.dishes, 320);
-    EXPECT_EQ(all.dishes, ShippedContent::get().dishes().size());
+    EXPECT_GE(all, 320);
+    EXPECT_EQ(all, ShippedContent::get().dishes().size());
 }
 
 // The tool knows the kinds and the sets of phases; which go together is this catalogue's matter.
