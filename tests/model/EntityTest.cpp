@@ -29,25 +29,23 @@ namespace kesto::test
 namespace
 {
 
-/// An attribute with its typed accessors behind variants, and values that it must keep.
+/// An attribute with its typed accessors behind variants, and a value that it must keep. What a type can hold is tested
+/// with the graph.
 struct Attribute
 {
     std::string entity;
     std::string name;
     std::function<QVariant(const ManagedObject &)> read;
     std::function<void(ManagedObject &, const QVariant &)> write;
-    QList<QVariant> values;
+    QVariant value;
 };
 
-QList<QVariant> valuesOf(const float * /*type*/) { return {0.0F, 80.1F, -3.5F}; }
-QList<QVariant> valuesOf(const int * /*type*/) { return {qint64(0), qint64(7), qint64(-1)}; }
-QList<QVariant> valuesOf(const quint32 * /*type*/) { return {0U, 8U, std::numeric_limits<quint32>::max()}; }
-QList<QVariant> valuesOf(const bool * /*type*/) { return {false, true}; }
-QList<QVariant> valuesOf(const QByteArray * /*type*/) { return {QByteArray(""), QByteArray("\0\1", 2)}; }
-QList<QVariant> valuesOf(const QDateTime * /*type*/)
-{
-    return {QDateTime::fromMSecsSinceEpoch(0, Qt::UTC), QDateTime::fromMSecsSinceEpoch(1'709'802'000'123, Qt::UTC)};
-}
+QVariant sampleOf(const float * /*type*/) { return 80.1F; }
+QVariant sampleOf(const int * /*type*/) { return qint64(-7); }
+QVariant sampleOf(const quint32 * /*type*/) { return std::numeric_limits<quint32>::max(); }
+QVariant sampleOf(const bool * /*type*/) { return false; }
+QVariant sampleOf(const QByteArray * /*type*/) { return QByteArray("\0\1", 2); }
+QVariant sampleOf(const QDateTime * /*type*/) { return QDateTime::fromMSecsSinceEpoch(1'709'802'000'123, Qt::UTC); }
 
 template <class T, class Value, class Parameter>
 Attribute typed(const char *entity, const char *name, std::optional<Value> (T::*get)() const, void (T::*set)(Parameter))
@@ -66,20 +64,19 @@ Attribute typed(const char *entity, const char *name, std::optional<Value> (T::*
                 (static_cast<T &>(object).*set)(value.isValid() ? std::optional<Value>(value.value<Value>())
                                                                 : std::nullopt);
             },
-            valuesOf(static_cast<const Value *>(nullptr))};
+            sampleOf(static_cast<const Value *>(nullptr))};
 }
 
 template <class T>
 Attribute typed(const char *entity, const char *name, QString (T::*get)() const, void (T::*set)(const QString &))
 {
-    return {entity,
-            name,
+    return {entity, name,
             [get](const ManagedObject &object) {
                 const QString value = (static_cast<const T &>(object).*get)();
                 return value.isNull() ? QVariant() : QVariant(value);
             },
             [set](ManagedObject &object, const QVariant &value) { (static_cast<T &>(object).*set)(value.toString()); },
-            {QString::fromUtf8(""), QStringLiteral("Щи 🍲"), QStringLiteral("0, 2")}};
+            QStringLiteral("Щи 🍲")};
 }
 
 std::vector<Attribute> attributes()
@@ -252,6 +249,14 @@ protected:
         ASSERT_TRUE(context_->save());
         reopen();
     }
+    void clear(const std::vector<std::string> &entities)
+    {
+        for (const std::string &entity : entities) {
+            for (ManagedObject *object : all(entity))
+                context_->deleteObject(*object);
+        }
+        saveAndReopen();
+    }
     ManagedObject &insert(const std::string &entity) { return context_->insert(*dietModel().entity(entity)); }
     std::vector<ManagedObject *> all(const std::string &entity)
     {
@@ -263,7 +268,7 @@ protected:
     std::unique_ptr<ManagedObjectContext> context_;
 };
 
-TEST_F(EntityTest, EveryAttributeKeepsItsValuesByNameAndTyped)
+TEST_F(EntityTest, EveryAttributeIsTheSameByNameAndTyped)
 {
     std::set<std::string> tried;
     for (const Attribute &attribute : attributes()) {
@@ -271,33 +276,22 @@ TEST_F(EntityTest, EveryAttributeKeepsItsValuesByNameAndTyped)
         ASSERT_NE(dietModel().entity(attribute.entity), nullptr);
         tried.insert(attribute.entity + '.' + attribute.name);
         const QString key = QString::fromStdString(attribute.name);
-        insert(attribute.entity);
-        saveAndReopen();
-        EXPECT_FALSE(attribute.read(*all(attribute.entity).front()).isValid()); // absent at first
-        QList<QVariant> values = attribute.values;
-        values.append(QVariant());
-        for (const QVariant &value : values) {
-            for (const bool byName : {false, true}) {
-                ManagedObject &object = *all(attribute.entity).front();
-                if (!byName)
-                    attribute.write(object, value);
-                else {
-                    EXPECT_TRUE(object.setValueForKey(value, key));
-                }
-                const auto check = [&](const ManagedObject &read) {
-                    for (const QVariant &got : {attribute.read(read), read.valueForKey(key)}) {
-                        EXPECT_EQ(got.typeId(), value.typeId());
-                        EXPECT_EQ(got.isNull(), value.isNull());
-                        EXPECT_EQ(got, value);
-                    }
-                };
-                check(object);
-                saveAndReopen();
-                check(*all(attribute.entity).front());
+        const auto expect = [&](const ManagedObject &object, const QVariant &value) {
+            for (const QVariant &got : {attribute.read(object), object.valueForKey(key)}) {
+                EXPECT_EQ(got.typeId(), value.typeId());
+                EXPECT_EQ(got, value);
             }
-        }
-        context_->deleteObject(*all(attribute.entity).front());
+        };
+        ManagedObject &typed = insert(attribute.entity);
+        expect(typed, {}); // absent at first
+        attribute.write(typed, attribute.value);
+        expect(typed, attribute.value);
+        attribute.write(typed, {});
+        expect(typed, {});
+        EXPECT_TRUE(typed.setValueForKey(attribute.value, key));
         saveAndReopen();
+        expect(*all(attribute.entity).front(), attribute.value);
+        clear({attribute.entity});
     }
     size_t count = 0;
     for (const EntityDescription &entity : dietModel().entities())
@@ -317,19 +311,14 @@ TEST_F(EntityTest, EveryRelationshipLeadsThereAndBack)
         insert(relationship.entity);
         insert(relationship.destination);
         const auto expectLinked = [&](bool linked) {
-            for (int round = 0; round < 2; ++round) {
-                ManagedObject *source = first(relationship.entity);
-                ManagedObject *destination = first(relationship.destination);
-                EXPECT_EQ(relationship.one(*source), linked ? destination : nullptr);
-                EXPECT_EQ(relationship.back(*destination),
-                          linked ? std::vector{source} : std::vector<ManagedObject *>());
-                EXPECT_EQ(source->valueForKey(name).value<ManagedObject *>(), linked ? destination : nullptr);
-                const QVariant back = destination->valueForKey(inverse);
-                const auto list = back.value<QList<ManagedObject *>>();
-                EXPECT_EQ(list.isEmpty() ? back.value<ManagedObject *>() : list.front(), linked ? source : nullptr);
-                if (round == 0)
-                    saveAndReopen();
-            }
+            ManagedObject *source = first(relationship.entity);
+            ManagedObject *destination = first(relationship.destination);
+            EXPECT_EQ(relationship.one(*source), linked ? destination : nullptr);
+            EXPECT_EQ(relationship.back(*destination), linked ? std::vector{source} : std::vector<ManagedObject *>());
+            EXPECT_EQ(source->valueForKey(name).value<ManagedObject *>(), linked ? destination : nullptr);
+            const QVariant back = destination->valueForKey(inverse);
+            const auto list = back.value<QList<ManagedObject *>>();
+            EXPECT_EQ(list.isEmpty() ? back.value<ManagedObject *>() : list.front(), linked ? source : nullptr);
         };
         relationship.setOne(*first(relationship.entity), first(relationship.destination));
         expectLinked(true);
@@ -342,12 +331,13 @@ TEST_F(EntityTest, EveryRelationshipLeadsThereAndBack)
         EXPECT_TRUE(
             first(relationship.entity)->setValueForKey(QVariant::fromValue(first(relationship.destination)), name));
         expectLinked(true);
+        saveAndReopen();
+        expectLinked(true);
 
         for (const bool deleteDestination : {true, false}) {
             // Another pair, unlinked, must stay.
+            clear({relationship.entity, relationship.destination});
             for (const std::string &entity : {relationship.entity, relationship.destination}) {
-                for (ManagedObject *object : all(entity))
-                    context_->deleteObject(*object);
                 insert(entity);
                 insert(entity);
             }
@@ -363,11 +353,7 @@ TEST_F(EntityTest, EveryRelationshipLeadsThereAndBack)
             EXPECT_EQ(relationship.one(*first(relationship.entity)), nullptr);
             EXPECT_TRUE(relationship.back(*first(relationship.destination)).empty());
         }
-        for (const std::string &entity : {relationship.entity, relationship.destination}) {
-            for (ManagedObject *object : all(entity))
-                context_->deleteObject(*object);
-        }
-        saveAndReopen();
+        clear({relationship.entity, relationship.destination});
     }
     for (const EntityDescription &entity : dietModel().entities())
         count -= entity.toOneRelationships().size() + entity.toManyRelationships().size();

@@ -22,8 +22,6 @@ namespace kesto::test
 namespace
 {
 
-using testing::ElementsAre;
-
 class OperationsTest : public testing::Test
 {
 protected:
@@ -45,39 +43,10 @@ protected:
         ASSERT_TRUE(coordinator_->access()->execute((std::string("DROP TABLE ") + table).c_str(), nullptr));
     }
 
-    /// The names of the ingredients of a dish that has four in each language.
-    std::vector<std::string> ingredients()
-    {
-        auto &dish = context_->insert<Dish>();
-        for (const int place : {10, 2, 0, 1}) {
-            auto &russian = context_->insert<Ingredient>();
-            russian.setName(QStringLiteral("ru%1").arg(place));
-            russian.setDisplayOrder(place);
-            russian.setDishRU(&dish);
-            auto &english = context_->insert<Ingredient>();
-            english.setName(QStringLiteral("en%1").arg(place));
-            english.setDisplayOrder(place);
-            english.setDishENG(&dish);
-        }
-        std::vector<std::string> names;
-        for (const Ingredient *line : dish.ingredients())
-            names.push_back(line->name().toStdString());
-        return names;
-    }
-
     TestPlatform platform_;
     std::unique_ptr<PersistentStoreCoordinator> coordinator_;
     std::unique_ptr<ManagedObjectContext> context_;
     const QDateTime midnight_ = platform_.date(2024, 3, 31);
-};
-
-class EnglishOperationsTest : public OperationsTest
-{
-protected:
-    EnglishOperationsTest()
-        : OperationsTest(QStringLiteral("en"))
-    {
-    }
 };
 
 TEST_F(OperationsTest, ADayIsFoundByItsExactInstantOrMadeAndSaved)
@@ -242,16 +211,34 @@ TEST_F(OperationsTest, AFreeIngredientIsFoundByItsExactNameOrMadeAndSaved)
     EXPECT_EQ(context_->fetch<Ingredient>().size(), 2U);
 }
 
-TEST_F(OperationsTest, IngredientsAreTheRussianOnesInTheirOrder)
+class IngredientsTest : public OperationsTest, public testing::WithParamInterface<const char *>
 {
-    EXPECT_THAT(ingredients(), ElementsAre("ru0", "ru1", "ru2", "ru10"));
-    EXPECT_TRUE(context_->insert<Dish>().ingredients().empty());
+protected:
+    IngredientsTest()
+        : OperationsTest(QLatin1String(GetParam()))
+    {
+    }
+};
+
+TEST_P(IngredientsTest, AreThoseOfTheLanguageInTheirOrder)
+{
+    auto &dish = context_->insert<Dish>();
+    EXPECT_TRUE(dish.ingredients().empty());
+    for (const int place : {10, 2, 0, 1}) {
+        for (const char *language : {"ru", "en"}) {
+            auto &line = context_->insert<Ingredient>();
+            line.setName(QLatin1String(language) + QString::number(place));
+            line.setDisplayOrder(place);
+            *language == 'r' ? line.setDishRU(&dish) : line.setDishENG(&dish);
+        }
+    }
+    QStringList names;
+    for (const Ingredient *line : dish.ingredients())
+        names.append(line->name());
+    EXPECT_EQ(names.join(u' ').remove(QLatin1String(GetParam())), QStringLiteral("0 1 2 10"));
 }
 
-TEST_F(EnglishOperationsTest, IngredientsAreTheEnglishOnesInTheirOrder)
-{
-    EXPECT_THAT(ingredients(), ElementsAre("en0", "en1", "en2", "en10"));
-}
+INSTANTIATE_TEST_SUITE_P(Languages, IngredientsTest, testing::Values("ru", "en"));
 
 TEST_F(OperationsTest, AFetchThatFailsIsLoggedAndCountsAsNoMatch)
 {
