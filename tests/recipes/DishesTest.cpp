@@ -87,7 +87,9 @@ TEST_F(DishesTest, OpeningADishClearsItsNewMarkForGood)
     program.dish("в").setRecipeNew(false);
     program.dish("а").setRecipeNew(true);
     program.save();
+    Window::sharedWindow().setDevice(Window::Device::Phone);
     DishesViewController &screen = show(std::make_unique<DishesViewController>(0));
+    EXPECT_TRUE(screen.rightBarButtonItems().isEmpty()) << "a phone has the scopes above the grid";
     QSignalSpy changed(screen.tiles(), &QAbstractItemModel::dataChanged);
     screen.selectItem(1);
     ASSERT_EQ(changed.count(), 1) << "only the tile that was touched";
