@@ -58,6 +58,8 @@ TEST(Products, AreListedWithTheirKindAndTheLettersOfTheirPhases)
 
     for (const auto &[period, letter] : {std::pair(-1, ""), {0, "A"}, {1, "k"}, {2, "K"}, {3, "С"}, {4, ""}})
         EXPECT_EQ(IngredientsViewController::abriviatureForPeriod(period), utf8(letter)) << period;
+    products.screen->rightBarButtonItems().constFirst()->trigger();
+    EXPECT_EQ(ShoppingFixture::window().popovers().size(), 1) << "the legend";
 }
 
 TEST(Products, AreNarrowedToAPhaseAndSearched)

@@ -72,15 +72,11 @@ Item {
         function test_theArrowsWalkOverTheMonthsEdges_data() {
             const up = Qt.Key_Up, down = Qt.Key_Down, left = Qt.Key_Left, right = Qt.Key_Right, page = Qt.Key_PageDown;
             return [
-                { tag: "beside", keys: [right], month: "March 2024", day: "8 March 2024" },
                 { tag: "a week on", keys: [down], month: "March 2024", day: "14 March 2024" },
                 { tag: "to the first cell", keys: [up, left, left, left], month: "March 2024", day: "26 February 2024" },
                 { tag: "before the first cell", keys: [up, left, left, left, left], month: "February 2024", day: "25 February 2024" },
-                { tag: "there and back", keys: [up, left, left, left, left, right], month: "February 2024", day: "26 February 2024" },
                 { tag: "to the last cell", keys: [down, down, down, right, right, right], month: "March 2024", day: "31 March 2024" },
                 { tag: "after the last cell", keys: [down, down, down, right, right, right, right], month: "April 2024", day: "1 April 2024" },
-                { tag: "a week up over the edge", keys: [up, up], month: "February 2024", day: "22 February 2024" },
-                { tag: "a week down over the edge", keys: [down, down, down, down], month: "April 2024", day: "4 April 2024" },
                 { tag: "weeks and weeks", keys: [down, down, down, down, down, down, down, down, down], month: "May 2024", day: "9 May 2024" },
                 { tag: "a page keeps the place", keys: [right, page], month: "April 2024", day: "12 April 2024" },
                 { tag: "to a month with fewer weeks", keys: [page, page, page, page, page, page, down, down, down, down, Qt.Key_PageUp], month: "August 2024", day: "1 September 2024" },
