@@ -1,6 +1,7 @@
 #include "components/Window.h"
 #include "app/WindowFixture.h"
 #include "components/SideMenuContainer.h"
+#include "components/TableViewController.h"
 #include "model/Dish.h"
 #include "platform/Platform.h"
 #include "platform/UserDefaults.h"
@@ -10,8 +11,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QQmlContext>
-#include <QQmlProperty>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QSignalSpy>
@@ -38,25 +37,33 @@ TEST_F(WindowTest, FirstFrameShowsWhatIsInFrontAndTheNextTheRest)
         SCOPED_TRACE(menuOpen);
         start(Device::Phone, QSize(390, 844));
         qobject_cast<SideMenuContainer *>(program_->window().rootViewController())->setMenuOpen(menuOpen);
-        const auto tables = [&](bool drawn) {
+        const auto tables = [&] {
             QStringList found;
             (void)item(*program_->view().contentItem(), [&](const QQuickItem &each) {
-                if (each.objectName() == QStringLiteral("list") && each.property("count").toInt() > 0 &&
-                    (!drawn || !each.childItems().first()->childItems().isEmpty()))
-                    found.append(
-                        QQmlProperty::read(&each, QStringLiteral("Accessible.name"), qmlContext(&each)).toString());
+                const auto *controller = each.property("controller").value<TableViewController *>();
+                if (controller != nullptr && each.property("list").isValid())
+                    found.append(controller->title());
                 return false;
             });
             return found.join(u'|').toStdString();
         };
-        QString first;
+        std::string first;
+        bool drawn = false;
+        const Person user = person();
         QObject::connect(
             &program_->view(), &QQuickWindow::frameSwapped, &program_->view(),
-            [&] { first = QString::fromStdString(tables(true)); }, Qt::SingleShotConnection);
+            [&] {
+                first = tables();
+                drawn = user.sees(QAccessible::ListItem,
+                                  menuOpen ? QStringLiteral("Список покупок") : QStringLiteral("Пол, Женский"));
+            },
+            Qt::SingleShotConnection);
         QSignalSpy frames(&program_->view(), &QQuickWindow::frameSwapped);
         ASSERT_TRUE(frames.wait());
-        EXPECT_EQ(first.toStdString(), (menuOpen ? menuTitle : calculator).toStdString());
-        EXPECT_TRUE(QTest::qWaitFor([&] { return tables(false) == (calculator + u'|' + menuTitle).toStdString(); }));
+        EXPECT_EQ(first, (menuOpen ? menuTitle : calculator).toStdString());
+        EXPECT_TRUE(drawn);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return tables() == (calculator + u'|' + menuTitle).toStdString(); }))
+            << tables();
     }
 }
 
