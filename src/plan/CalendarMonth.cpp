@@ -193,10 +193,6 @@ QVariant CalendarMonth::data(const QModelIndex &index, int role) const
         return cell.dietPeriod;
     case ColorRole:
         return CoreDataManager::colorForPeriod(cell.dietPeriod).value_or(Qt::transparent);
-    case KindRole:
-        return cell.kind;
-    case HasJornalRole:
-        return cell.hasJornal;
     case WeekdayRole:
         return cell.weekday;
     case IsOtherMonthRole:
@@ -225,8 +221,6 @@ QHash<int, QByteArray> CalendarMonth::roleNames() const
     return {{NumberRole, "number"},
             {PeriodRole, "period"},
             {ColorRole, "color"},
-            {KindRole, "kind"},
-            {HasJornalRole, "hasJornal"},
             {WeekdayRole, "weekday"},
             {IsOtherMonthRole, "isOtherMonth"},
             {IsTodayRole, "isToday"},

@@ -45,8 +45,6 @@ public:
         NumberRole = Qt::UserRole, ///< number: the day of the month
         PeriodRole,                ///< period: the phase, −1 before the start
         ColorRole,                 ///< color: the phase's; transparent before the start
-        KindRole,                  ///< kind
-        HasJornalRole,             ///< hasJornal
         WeekdayRole,               ///< weekday
         IsOtherMonthRole,          ///< isOtherMonth
         IsTodayRole,               ///< isToday

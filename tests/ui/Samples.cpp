@@ -1,6 +1,8 @@
 #include "Samples.h"
 
 #include "components/PopoverController.h"
+#include "model/DietDay.h"
+#include "model/JornalDay.h"
 #include "platform/Platform.h"
 #include "platform/UserDefaults.h"
 #include "store/CoreDataManager.h"
@@ -77,6 +79,25 @@ CalendarViewController *Samples::openCalendar()
     CalendarViewController *made = calendar.get();
     stack_->pushViewController(std::move(calendar), true);
     return made;
+}
+
+void Samples::markDay(int year, int month, int day, const QString &kind, bool jornal)
+{
+    ManagedObjectContext &context = *CoreDataManager::sharedManager().managedObjectContext();
+    const QDateTime date = Platform::current().calendar().startOfDay(QDate(year, month, day));
+    if (DietDay *before = DietDay::dayWithoutCreation(date, context))
+        context.deleteObject(*before);
+    if (!kind.isEmpty() || jornal) {
+        DietDay &made = DietDay::dietDatWithDate(date, context);
+        if (!kind.isEmpty())
+            made.setValueForKey(true, kind);
+        if (jornal)
+            context.insert<JornalDay>().setDay(&made);
+    }
+    if (!context.save())
+        qFatal("the day can't be saved");
+    if (auto *calendar = qobject_cast<CalendarViewController *>(stack_->topViewController()))
+        calendar->month()->refreshDate(date);
 }
 
 SampleTable *Samples::push()

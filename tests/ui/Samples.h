@@ -43,6 +43,9 @@ public:
     Q_INVOKABLE kesto::SplitViewController *openSplit();
     /// On a stack over a table, in a plan that starts on 5 March 2024; a day opens as one more table.
     Q_INVOKABLE kesto::CalendarViewController *openCalendar();
+    /// Gives a day that the open calendar shows or not a kind ("chB", "bO", "feast" or none) and a journal; one without
+    /// either is kept no longer.
+    Q_INVOKABLE void markDay(int year, int month, int day, const QString &kind, bool jornal);
     /// The stack in the centre.
     Q_INVOKABLE kesto::NavigationController *stack() const { return stack_; }
     Q_INVOKABLE kesto::SideMenuContainer *menu() const { return menu_; }

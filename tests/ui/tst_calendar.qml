@@ -42,6 +42,7 @@ Item {
             wait(20);
         }
         function cleanup() {
+            Appearance.textScale = 1;
             Samples.clear();
         }
         function cleanupTestCase() {
@@ -102,6 +103,25 @@ Item {
             compare(screen.dateText, "20 March");
             keys(Qt.Key_Right);
             compare(cursorDay(), "21 March 2024", "the arrows go on from there");
+        }
+
+        function test_theMarksLieOverTheDays_data() {
+            return [{ tag: "usual text", scale: 1 }, { tag: "twice the text", scale: 2 }];
+        }
+        function test_theMarksLieOverTheDays(data) {
+            Appearance.textScale = data.scale;
+            screen.previousMonth();
+            waitForRendering(stage, 200);
+            const marks = stage.all(grid, item => item.hasOwnProperty("labelMargin"))[0];
+            const cells = stage.all(grid, item => item.hasOwnProperty("isSelected"));
+            compare(cells.length, screen.month.weeks * 7);
+            cells.forEach(cell => {
+                const at = cell.mapToItem(marks, 0, 0);
+                fuzzyCompare(at.x, cell.index % 7 * marks.width / 7, 0.01);
+                compare(at.y, Math.floor(cell.index / 7) * marks.cellHeight);
+                compare(cell.height, marks.cellHeight);
+            });
+            compare(marks.height, screen.month.weeks * marks.cellHeight);
         }
 
         function test_EnterLeadsThroughTheFields() {

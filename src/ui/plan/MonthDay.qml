@@ -1,15 +1,13 @@
 import QtQuick
 import Kesto
 
-/*! A day of the month: its number, the kind's short label, a smile for a journal, and the phase as a line below. */
+/*! A day of the month: its number, and the phase as a line below. What it is marked with, MonthMarks draws. */
 Item {
     id: day
 
     required property int index
     required property int number
     required property color color
-    required property string kind
-    required property bool hasJornal
     required property bool isOtherMonth
     required property bool isToday
     required property bool isEnabled
@@ -36,7 +34,7 @@ Item {
     }
     Item {
         anchors.fill: parent
-        opacity: !day.isEnabled ? 0.4 : day.isOtherMonth ? 0.55 : 1
+        opacity: !day.isEnabled ? Tokens.disabledOpacity : day.isOtherMonth ? Tokens.otherMonthOpacity : 1
 
         Label {
             id: number
@@ -51,33 +49,12 @@ Item {
             font.pixelSize: Tokens.textBody
             font.bold: day.isToday
         }
-        Label {
-            anchors.horizontalCenter: parent.horizontalCenter
-            anchors.bottom: phase.top
-            width: parent.width - 2
-            text: day.kind
-            wrapMode: Text.NoWrap
-            elide: Text.ElideRight
-            horizontalAlignment: Text.AlignHCenter
-            font.pixelSize: Tokens.textCaption - 1
-        }
-        Icon {
-            anchors.right: parent.right
-            anchors.top: parent.top
-            anchors.margins: 3
-            visible: day.hasJornal
-            name: "smile"
-            size: Tokens.tinyIcon - 2
-            color: Tokens.colors.text
-        }
         Rectangle {
-            id: phase
-
             x: Tokens.half
             y: parent.height - height - Tokens.half
             width: parent.width - 2 * x
-            height: 4
-            radius: 2
+            height: Tokens.phaseHeight
+            radius: height / 2
             color: day.color
         }
     }

@@ -131,6 +131,22 @@ FocusScope {
             }
         }
     }
+    MonthMarks {
+        x: column.x
+        y: cells.y
+        width: cells.width
+        height: cells.height
+        month: grid.month
+        cellHeight: grid.cellHeight
+        font.family: Tokens.family
+        font.pixelSize: Tokens.textCaption - 1
+        color: Tokens.colors.text
+        labelMargin: Tokens.phaseHeight + Tokens.half
+        smileSize: Tokens.tinyIcon - 2
+        smileMargin: 3
+        disabledOpacity: Tokens.disabledOpacity
+        otherMonthOpacity: Tokens.otherMonthOpacity
+    }
     DragHandler {
         target: null
         yAxis.enabled: false

@@ -32,6 +32,11 @@ QtObject {
     readonly property int smallRadius: 8
     readonly property int hairline: 1
     readonly property int focusWidth: 2
+    readonly property int phaseHeight: 4
+
+    /*! Of the days of a calendar that can't be chosen, and of those beside its month. */
+    readonly property real disabledOpacity: 0.4
+    readonly property real otherMonthOpacity: 0.55
 
     /*! The widest column of text and rows that still reads well. */
     readonly property int readableWidth: 640
