@@ -69,7 +69,7 @@ FocusScope {
     Swap {
         id: panel
 
-        x: -drawer.panelWidth
+        // settle() alone says where: a binding outlives what a Behavior takes over.
         width: drawer.panelWidth
         height: drawer.height
         visible: x > -width
