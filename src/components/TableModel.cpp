@@ -10,7 +10,7 @@ namespace
 {
 
 /// One line of a section, to compare and to find what it is.
-struct Line
+struct Place
 {
     TableModel::LineType type = TableModel::LineType::Row;
     int row = -1;
@@ -22,19 +22,19 @@ int lineCount(const TableSection &section)
            (section.footer.isNull() ? 0 : 1);
 }
 
-Line lineAt(const TableSection &section, int offset)
+Place placeAt(const TableSection &section, int offset)
 {
     const int header = section.header.isNull() ? 0 : 1;
     if (offset < header)
         return {.type = TableModel::LineType::Header};
     const int row = offset - header;
-    return row < section.rows.size() ? Line{.row = row} : Line{.type = TableModel::LineType::Footer};
+    return row < section.rows.size() ? Place{.row = row} : Place{.type = TableModel::LineType::Footer};
 }
 
 bool equalLines(const TableSection &left, int leftOffset, const TableSection &right, int rightOffset)
 {
-    const Line one = lineAt(left, leftOffset);
-    const Line other = lineAt(right, rightOffset);
+    const Place one = placeAt(left, leftOffset);
+    const Place other = placeAt(right, rightOffset);
     if (one.type != other.type)
         return false;
     switch (one.type) {
@@ -51,7 +51,7 @@ bool equalLines(const TableSection &left, int leftOffset, const TableSection &ri
 TableSection withoutLines(TableSection section, int first, int count)
 {
     for (int offset = first + count - 1; offset >= first; --offset) {
-        const Line line = lineAt(section, offset);
+        const Place line = placeAt(section, offset);
         if (line.type == TableModel::LineType::Row)
             section.rows.removeAt(line.row);
         else
@@ -95,37 +95,66 @@ QHash<int, QByteArray> TableModel::roleNames() const
             {BadgesRole, "badges"},
             {CellRole, "cell"},
             {ValueRole, "value"},
-            {PickerRole, "picker"}};
+            {PickerRole, "picker"},
+            {TableModelRole, "tableModel"}};
+}
+
+int TableModel::sectionOf(int line) const
+{
+    // The last section that begins at or before the line: of empty sections none has a line.
+    const auto after = std::upper_bound(firstLines_.begin(), firstLines_.end() - 1, line);
+    return static_cast<int>(std::distance(firstLines_.begin(), after)) - 1;
+}
+
+TableModel::Line TableModel::lineAt(int line) const
+{
+    const int number = sectionOf(line);
+    const TableSection &section = sections_.at(number);
+    const int offset = line - firstLine(number);
+    const Place place = placeAt(section, offset);
+    Line found{.type = place.type,
+               .path = {.section = number, .row = place.row},
+               .last = place.row >= 0 && place.row == section.rows.size() - 1};
+    if (offset > 0)
+        found.followsRow = placeAt(section, offset - 1).type == LineType::Row;
+    else if (line > 0)
+        found.followsRow = lineAt(line - 1).type == LineType::Row;
+    if (place.type == LineType::Row)
+        found.shown = section.rows.at(place.row);
+    else
+        found.shown = {.title = place.type == LineType::Header ? section.header : section.footer, .selectable = false};
+    return found;
 }
 
 QVariant TableModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid() || index.row() >= rowCount())
         return {};
-    // The last section that begins at or before the line: of empty sections none has a line.
-    const auto after = std::upper_bound(firstLines_.begin(), firstLines_.end() - 1, index.row());
-    const int number = static_cast<int>(std::distance(firstLines_.begin(), after)) - 1;
-    const TableSection &section = sections_.at(number);
-    const Line line = lineAt(section, index.row() - firstLine(number));
+    const Line line = lineAt(index.row());
     switch (role) {
     case TypeRole:
         return static_cast<int>(line.type);
     case SectionRole:
-        return number;
+        return line.path.section;
     case RowRole:
-        return line.row;
+        return line.path.row;
     case IsFirstRole:
-        return line.row == 0;
+        return line.path.row == 0;
     case IsLastRole:
-        return line.row >= 0 && line.row == section.rows.size() - 1;
+        return line.last;
+    case TableModelRole:
+        return QVariant::fromValue(const_cast<TableModel *>(this)); // NOLINT: views may call what they know of it
     default:
-        break;
+        return rowData(line.shown, role);
     }
-    if (line.type == LineType::Row)
-        return rowData(section.rows.at(line.row), role);
-    // Views want every role of every line.
-    return rowData({.title = line.type == LineType::Header ? section.header : section.footer, .selectable = false},
-                   role);
+}
+
+QVariantList TableModel::badgesOf(const TableRow &row)
+{
+    QVariantList badges;
+    for (const TableRow::Badge &badge : row.badges)
+        badges.append(QVariantMap{{QStringLiteral("text"), badge.text}, {QStringLiteral("color"), badge.color}});
+    return badges;
 }
 
 QVariant TableModel::rowData(const TableRow &row, int role)
@@ -174,12 +203,8 @@ QVariant TableModel::rowData(const TableRow &row, int role)
         return static_cast<int>(row.keyboard);
     case ColorRole:
         return row.color.isValid() ? QVariant(row.color) : QVariant();
-    case BadgesRole: {
-        QVariantList badges;
-        for (const TableRow::Badge &badge : row.badges)
-            badges.append(QVariantMap{{QStringLiteral("text"), badge.text}, {QStringLiteral("color"), badge.color}});
-        return badges;
-    }
+    case BadgesRole:
+        return badgesOf(row);
     case CellRole:
         return row.cell;
     case ValueRole:

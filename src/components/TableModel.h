@@ -56,10 +56,23 @@ public:
         BadgesRole, ///< badges: a list of {text, color}
         CellRole,
         ValueRole,
-        PickerRole ///< picker: a Picker or null
+        PickerRole,    ///< picker: a Picker or null
+        TableModelRole ///< tableModel: this one, for who reads a line() as a whole
     };
     enum class LineType { Header, Row, Footer };
     Q_ENUM(LineType)
+
+    /// One line of the list.
+    struct Line
+    {
+        LineType type = LineType::Row;
+        IndexPath path{.section = 0, .row = -1}; ///< no row for headers and footers
+        bool last = false;                       ///< the last row of its section
+        bool followsRow = false;                 ///< the line before is a row, too, be it of another section
+        TableRow shown{};                        ///< of headers and footers the title alone
+
+        bool operator==(const Line &) const = default;
+    };
 
     using QAbstractListModel::QAbstractListModel;
 
@@ -72,6 +85,10 @@ public:
     [[nodiscard]] bool contains(const IndexPath &path) const;
     [[nodiscard]] const TableRow &rowAt(const IndexPath &path) const;
     [[nodiscard]] const TableSection &section(int section) const { return sections_.at(section); }
+    /// One that exists.
+    [[nodiscard]] Line lineAt(int line) const;
+    /// A row's badges for views: a list of {text, color}.
+    [[nodiscard]] static QVariantList badgesOf(const TableRow &row);
     /// The line of this list that a row is in, and back; nothing for headers and footers.
     [[nodiscard]] int line(const IndexPath &path) const;
     [[nodiscard]] std::optional<IndexPath> indexPath(int line) const;
@@ -91,6 +108,7 @@ public:
 
 private:
     [[nodiscard]] int firstLine(int section) const { return firstLines_.at(section); }
+    [[nodiscard]] int sectionOf(int line) const;
     void countLines();
     void linesChanged(int first, int last, const QList<int> &roles = {});
     void renumbered(int section);

@@ -128,13 +128,14 @@ TableBase {
         carry(line);
     }
     function drop(line: TableLine): void {
-        const to = target;
+        const section = target ? target.section : -1;
+        const row = target ? target.row : -1;
         line.lift = 0;
         carriedBy = 0;
         carriedLine = null;
         target = null;
-        if (to)
-            controller.moveRowByUser(line.section, line.row, to.section, to.row);
+        if (section >= 0)
+            controller.moveRowByUser(line.section, line.row, section, row);
     }
     function step(line: TableLine, by: int): void {
         if (line.canMove && line.row + by >= 0)

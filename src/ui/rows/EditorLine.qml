@@ -8,7 +8,7 @@ EditorRow {
     title: line.title
     text: line.text
     placeholder: line.placeholder
-    available: line.enabled
+    available: line.available
     current: line.current
     first: line.isFirst
     last: line.isLast

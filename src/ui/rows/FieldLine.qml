@@ -10,7 +10,7 @@ FieldRow {
     subtitle: line.subtitle
     titleColor: line.ink
     struckThrough: line.struckThrough
-    available: line.enabled
+    available: line.available
     current: line.current && !field.activeFocus
     first: line.isFirst
     last: line.isLast

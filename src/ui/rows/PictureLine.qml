@@ -8,7 +8,7 @@ PictureRow {
     picture: line.image
     title: line.title
     subtitle: line.subtitle
-    available: line.enabled
+    available: line.available
     selectable: line.selectable
     current: line.current
     first: line.isFirst

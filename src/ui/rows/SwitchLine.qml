@@ -9,7 +9,7 @@ SwitchRow {
     title: line.title
     subtitle: line.subtitle
     titleColor: line.ink
-    available: line.enabled
+    available: line.available
     current: line.current
     first: line.isFirst
     last: line.isLast

@@ -6,44 +6,12 @@ import Kesto
     \a cell names, which gets this line as its \c line and reads what it shows from \a value. A row's name as an anchor is
     "row/<section>/<row>".
 */
-FocusScope {
+LineItem {
     id: line
-
-    required property int index
-    required property int type
-    required property int section
-    required property int row
-    required property bool isFirst
-    required property bool isLast
-    required property int kind
-    required property string title
-    required property string subtitle
-    required property string detail
-    required property string image
-    required property int accessory
-    required property bool checked
-    required property bool on
-    required property bool selected
-    required enabled
-    required property bool selectable
-    required property bool destructive
-    required property bool struckThrough
-    required property bool canDelete
-    required property bool canMove
-    required property string text
-    required property string placeholder
-    required property string unit
-    required property int keyboard
-    required property var color
-    required property var badges
-    required property string cell
-    required property var value
-    required property var picker
 
     /*! The RowTable that shows this line; untyped, because that type needs this one. */
     required property var table
     readonly property TableViewController controller: table.controller
-    readonly property bool isRow: type === TableModel.Row
     readonly property bool editing: controller.editing
     readonly property bool current: isRow && ListView.isCurrentItem && table.keyboardShown
     readonly property Item content: loader.item as Item
@@ -70,8 +38,7 @@ FocusScope {
         }
     }
     /*! A section without a header keeps away from the one before it. */
-    readonly property real gapAbove: isRow && isFirst && index > 0
-        && controller.table.data(controller.table.index(index - 1, 0), Qt.UserRole) === TableModel.Row ? Tokens.wide : 0
+    readonly property real gapAbove: isRow && isFirst && followsRow ? Tokens.wide : 0
     /*! The title's colour: its meaning where it has one. */
     readonly property var ink: color !== undefined ? color
         : kind === TableRow.Button ? Tokens.colors.accentText : Tokens.colors.text
@@ -122,6 +89,7 @@ FocusScope {
             deleteShown = true;
     }
 
+    enabled: available
     width: ListView.view ? ListView.view.width : 320
     implicitHeight: loader.implicitHeight + gapAbove
     height: implicitHeight
@@ -171,7 +139,10 @@ FocusScope {
     }
 
     onActiveFocusChanged: if (!activeFocus) loader.focus = false
-    onCanDeleteChanged: if (!canDelete) deleteShown = false
+    // The button deletes what it was bared for and nothing else.
+    onReplaced: deleteShown = false
+    onEditingChanged: deleteShown = false
+    onChanged: if (!canDelete) deleteShown = false
     onDeleteShownChanged: if (deleteShown) table.deleteShown(line)
     onSourceChanged: if (complete) draw()
     Component.onCompleted: {

@@ -13,7 +13,7 @@ ListRow {
     destructive: line.destructive
     struckThrough: line.struckThrough
     centred: line.kind === TableRow.Button && line.image.length === 0
-    available: line.enabled
+    available: line.available
     selectable: line.selectable && !line.deleteShown
     selected: line.selected && line.accessory !== TableRow.Checkmark
     marked: line.accessory === TableRow.Checkmark
