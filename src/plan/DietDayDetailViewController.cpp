@@ -78,8 +78,11 @@ void DietDayDetailViewController::setDate(const QDateTime &date, int period)
 {
     if (date != date_ || period != dietPeriod_)
         closePicker(); // what it turns to yet is the weight of the day before
-    if (date != date_)
+    if (date != date_) {
         setEditing(false);
+        if (day_ != nullptr)
+            savePlan(); // this one is left
+    }
     date_ = date;
     dietPeriod_ = period;
     day_ = nullptr;
@@ -120,6 +123,8 @@ void DietDayDetailViewController::createContent()
     content_.clear();
     if (const DietDay *shown = day())
         content_ = dishesOfDay(*shown);
+    if (content_.empty())
+        setEditing(false);
     Q_EMIT contentChanged();
 }
 

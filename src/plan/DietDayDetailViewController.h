@@ -53,7 +53,7 @@ public:
     void addDish(Dish &dish) override;
     void addDishToDietDay(Dish &dish, ManagedObjectContext &toManagedObjectContext);
     /// Plans the dishes that the store manager proposes, unless the day is full enough. What it adds is saved with the
-    /// next change that is, at the latest when this screen is left.
+    /// next change that is, at the latest when this day is left.
     void autoFillDay();
 
     [[nodiscard]] int numberOfSections() const override;

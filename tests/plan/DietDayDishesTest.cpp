@@ -159,6 +159,13 @@ TEST_F(DietDayScreenTest, EditingMovesAndRemoves)
     reopen();
     EXPECT_EQ(stored(), "0C 1A 2D");
     EXPECT_EQ(dishes(), "C A D");
+
+    screen->setEditing(true);
+    for (const bool more : {true, true, false}) {
+        screen->deleteRowByUser(Screen::DishesSection, 0);
+        EXPECT_EQ(screen->isEditing(), more) << "as long as there is something to edit";
+    }
+    EXPECT_EQ(titles(Screen::AddSection).size(), 4);
 }
 
 TEST_F(DietDayScreenTest, FillsADayAutomatically)
@@ -186,6 +193,8 @@ TEST_F(DietDayScreenTest, FillsADayAutomatically)
     plan({"C", "D", "E"});
     screen->autoFillDay();
     EXPECT_EQ(screen->content().size(), 9U);
+    screen->setDate(march(7), attack);
+    EXPECT_FALSE(program.context().hasChanges()) << "leaving the day saves, too";
     screen->setDate(march(10), attack);
     plan({"C", "D", "E", "F"});
     screen->autoFillDay();
