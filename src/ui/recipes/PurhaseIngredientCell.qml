@@ -9,6 +9,8 @@ FocusScope {
     /*! The line that the field was entered for, and what it had: rows may change their places meanwhile. */
     property string edited
     property string before
+    /*! Of the field: what the title leaves, and a good third beside a long one. */
+    readonly property real room: Math.max(0.36 * width, width - title.x - title.implicitWidth - Tokens.gap - Tokens.unit)
     readonly property color ink: line.struckThrough ? Tokens.colors.textDisabled : Tokens.colors.text
 
     implicitHeight: Math.max(Tokens.rowHeight + 2 * Tokens.half, title.height + 2 * Tokens.unit)
@@ -65,7 +67,7 @@ FocusScope {
         anchors.right: parent.right
         anchors.rightMargin: Tokens.unit
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.max(64, Math.min(naturalWidth, cell.width * 0.36))
+        width: Math.max(64, Math.min(implicitWidth, cell.room))
         value: cell.edited.length > 0 ? cell.before : cell.line.text
         name: Texts.localized("Quantity") + ": " + cell.line.title
         placeholderText: cell.line.placeholder
