@@ -7,10 +7,13 @@
 #include "model/DishInDietDay.h"
 #include "model/Ingredient.h"
 #include "model/PurhaseIngredient.h"
+#include "plan/CalculatorViewController.h"
 #include "platform/Platform.h"
+#include "platform/UserDefaults.h"
 #include "recipes/DishesViewController.h"
 #include "recipes/FavoritesManager.h"
 #include "store/CoreDataManager.h"
+#include "store/Keys.h"
 #include "support/FakeClock.h"
 #include "support/SequenceRandomSource.h"
 
@@ -185,6 +188,8 @@ void MainJobPerson::shop() const
     const QStringList before = shoppingList();
     touches(checkBox, before[0]);
     ASSERT_EQ(shoppingList().constFirst(), before[0] + u'*');
+    touches(checkBox, before[2]);
+    ASSERT_EQ(shoppingList()[2], before[2] + u'*');
     touches(field, u("Количество: ") + before[0]);
     user_.types(u("2 пачки"));
     user_.presses(Qt::Key_Return);
@@ -228,6 +233,23 @@ QStringList shoppingList()
     return lines;
 }
 
+QStringList figures()
+{
+    CalculatorViewController calculator;
+    calculator.loadViewIfNeeded();
+    QStringList found;
+    for (const int section : {CalculatorViewController::InputsSection, CalculatorViewController::ResultsSection,
+                              CalculatorViewController::PhasesSection}) {
+        for (int i = 0; i < calculator.numberOfRowsInSection(section); ++i) {
+            const TableRow row = calculator.cellForRow({section, i});
+            found.append(row.title + u'=' + row.detail + row.text);
+        }
+    }
+    for (const QString &key : {Keys::kPeriod1Key, Keys::kPeriod2Key, Keys::kPeriod3Key})
+        found.append(QString::number(Platform::current().userDefaults().integerForKey(key)));
+    return found;
+}
+
 void liveThroughMainJob(const MainJob &job, const QString &dataFolder)
 {
     FakeClock clock(mainJobNow());
@@ -256,6 +278,7 @@ void liveThroughMainJob(const MainJob &job, const QString &dataFolder)
     person.shop();
     // What the next start must find, for the test that reads this output.
     std::cout << "PLAN " << plannedDishes().join(u'|').toStdString() << std::endl;
+    std::cout << "FIGURES " << figures().join(u'|').toStdString() << std::endl;
     std::cout << "LIST " << shoppingList().join(u'|').toStdString() << std::endl;
     std::cout << "LIKED " << FavoritesManager::sharedManager().dishesIDS().join(u'|').toStdString() << std::endl;
     QCoreApplication::processEvents(); // the user defaults are written when the event loop turns

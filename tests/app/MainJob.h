@@ -33,5 +33,7 @@ void liveThroughMainJob(const MainJob &job, const QString &dataFolder);
 /// bought one.
 [[nodiscard]] QStringList plannedDishes();
 [[nodiscard]] QStringList shoppingList();
+/// The calculator's "title=value" of every input, result and phase, and the lengths of the phases that the diet has.
+[[nodiscard]] QStringList figures();
 
 } // namespace kesto::test

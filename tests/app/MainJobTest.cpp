@@ -61,6 +61,9 @@ TEST_P(MainJobTest, EverythingIsThereAfterAKill)
     EXPECT_TRUE(user.waitsToSee(QAccessible::ListItem, plan[0]));
     EXPECT_EQ(plannedDishes(), plan);
     EXPECT_EQ(shoppingList(), printed(output, QStringLiteral("LIST")));
+    EXPECT_EQ(shoppingList().filter(QStringLiteral("*")).size(), 2);
+    EXPECT_EQ(figures(), printed(output, QStringLiteral("FIGURES")));
+    EXPECT_TRUE(figures().contains(QStringLiteral("Вес=92.0 кг"))) << figures().join(u'|').toStdString();
     EXPECT_EQ(FavoritesManager::sharedManager().dishesIDS(), printed(output, QStringLiteral("LIKED")));
     EXPECT_EQ(FavoritesManager::sharedManager().favoritiesDishes().size(), 1U);
     const DietDay *day = DietDay::dayWithoutCreation(program->platform().calendar().startOfDay(QDate(2026, 3, 2)),
