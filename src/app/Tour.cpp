@@ -1,11 +1,9 @@
 #include "app/Tour.h"
 
-#include "app/Program.h"
 #include "app/TourGuide.h"
 #include "app/TourStops.h"
 #include "components/Window.h"
 #include "import/UpdatingDatabaseViewController.h"
-#include "ui/Appearance.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -70,9 +68,9 @@ int runParts(const QString &folder, const QStringList &names, QStringList &files
 }
 
 /// The first picture is the preparation of the recipes, held for as long as it takes.
-bool waitForImport(Program &program, TourGuide &guide)
+bool waitForImport(TourGuide &guide)
 {
-    const QList<ViewController *> presented = program.window().presentedViewControllers();
+    const QList<ViewController *> presented = guide.window().presentedViewControllers();
     auto *preparation = qobject_cast<UpdatingDatabaseViewController *>(presented.value(0));
     if (preparation == nullptr)
         return false;
@@ -80,6 +78,21 @@ bool waitForImport(Program &program, TourGuide &guide)
     guide.takePicture(QStringLiteral("preparing"));
     preparation->timer().start();
     return guide.waitUntilNothingIsPresented();
+}
+
+void takeAllPictures(TourGuide &guide)
+{
+    if (!waitForImport(guide)) {
+        guide.complain(QStringLiteral("The recipes were not prepared."));
+        return;
+    }
+    for (const TourStop &stop : tourStops()) {
+        stop.show(guide);
+        if (!guide.hasProgram())
+            return;
+        guide.takePicture(stop.name);
+        guide.goHome();
+    }
 }
 
 } // namespace
@@ -112,32 +125,22 @@ int runTourPart(const CommandLine &line)
             if (name != line.tourPart)
                 continue;
             const QTemporaryDir data;
-            QString error = QStringLiteral("There is no room for temporary data.");
-            const std::unique_ptr<Program> program =
-                data.isValid() ? Program::start({.dataFolder = data.filePath(QStringLiteral("data")),
-                                                 .resourcesFolder = {},
-                                                 .language = language,
-                                                 .device = part.device,
-                                                 .size = part.size},
-                                                &error)
-                               : nullptr;
-            if (program == nullptr)
-                return fail(error);
-            program->userInterface().appearance().setMotion(false);
-            TourGuide guide(*program, line.tourFolder, name);
-            if (!waitForImport(*program, guide))
-                return fail(QStringLiteral("The recipes were not prepared."));
-            for (const TourStop &stop : tourStops()) {
-                stop.show(guide);
-                guide.takePicture(stop.name);
-                guide.goHome();
-            }
+            if (!data.isValid())
+                return fail(QStringLiteral("There is no room for temporary data."));
+            TourGuide guide({.dataFolder = data.filePath(QStringLiteral("data")),
+                             .resourcesFolder = {},
+                             .language = language,
+                             .device = part.device,
+                             .size = part.size},
+                            line.tourFolder, name);
+            if (guide.startProgram())
+                takeAllPictures(guide);
             QTextStream out(stdout);
             for (const QString &file : guide.pictures())
                 out << file << Qt::endl;
-            for (const QString &file : guide.failures())
-                (void)fail(QStringLiteral("The picture %1 can't be saved.").arg(file));
-            return guide.failures().isEmpty() ? 0 : 1;
+            for (const QString &complaint : guide.complaints())
+                (void)fail(complaint);
+            return guide.complaints().isEmpty() ? 0 : 1;
         }
     }
     return fail(QStringLiteral("The tour has no part \"%1\".").arg(line.tourPart));

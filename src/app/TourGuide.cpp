@@ -1,6 +1,5 @@
 #include "app/TourGuide.h"
 
-#include "app/Program.h"
 #include "app/RootViewConrollerViewController.h"
 #include "components/AlertCenter.h"
 #include "components/NavigationController.h"
@@ -8,6 +7,7 @@
 #include "components/SideMenuContainer.h"
 #include "components/SplitViewController.h"
 #include "components/Window.h"
+#include "ui/Appearance.h"
 
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -19,18 +19,33 @@
 namespace kesto
 {
 
-TourGuide::TourGuide(Program &program, QString folder, QString prefix)
-    : program_(program)
+TourGuide::TourGuide(Program::Options options, QString folder, QString prefix)
+    : options_(std::move(options))
     , folder_(std::move(folder))
     , prefix_(std::move(prefix))
 {
 }
 
-Platform &TourGuide::platform() { return program_.platform(); }
+bool TourGuide::startProgram()
+{
+    if (hasProgram())
+        settle(std::chrono::milliseconds(0)); // the user defaults are written when the event loop turns
+    program_.reset();
+    QString error;
+    program_ = Program::start(options_, &error);
+    if (!hasProgram()) {
+        complain(error);
+        return false;
+    }
+    program_->userInterface().appearance().setMotion(false);
+    return true;
+}
 
-Window &TourGuide::window() { return program_.window(); }
+Platform &TourGuide::platform() { return program_->platform(); }
 
-RootViewConrollerViewController &TourGuide::menu() { return *program_.delegate().rootMenu(); }
+Window &TourGuide::window() { return program_->window(); }
+
+RootViewConrollerViewController &TourGuide::menu() { return *program_->delegate().rootMenu(); }
 
 void TourGuide::openMenu()
 {
@@ -83,12 +98,13 @@ bool TourGuide::waitUntilNothingIsPresented()
 void TourGuide::takePicture(const QString &name)
 {
     settle();
-    const QString file = QStringLiteral("%1/%2-%3-%4.png")
-                             .arg(folder_, prefix_)
-                             .arg(pictures_.size() + failures_.size() + 1, 2, 10, QLatin1Char('0'))
-                             .arg(name);
-    const QImage image = program_.view().grabWindow();
-    (!image.isNull() && image.save(file) ? pictures_ : failures_).append(file);
+    const QString file =
+        QStringLiteral("%1/%2-%3-%4.png").arg(folder_, prefix_).arg(++stops_, 2, 10, QLatin1Char('0')).arg(name);
+    const QImage image = program_->view().grabWindow();
+    if (!image.isNull() && image.save(file))
+        pictures_.append(file);
+    else
+        complain(QStringLiteral("The picture %1 can't be saved.").arg(file));
 }
 
 } // namespace kesto

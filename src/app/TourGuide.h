@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Program.h"
 #include "components/ViewController.h"
 #include "components/Window.h"
 
@@ -7,21 +8,25 @@
 #include <QStringList>
 
 #include <chrono>
+#include <memory>
 
 namespace kesto
 {
 
 class Platform;
-class Program;
 class RootViewConrollerViewController;
 
-/// Leads through the screens of a running program, by what a person could do, and takes their pictures.
+/// Starts a program, leads through its screens by what a person could do, and takes their pictures.
 class TourGuide
 {
 public:
     /// The pictures are called "<prefix>-<number>-<name>.png".
-    TourGuide(Program &program, QString folder, QString prefix);
+    TourGuide(Program::Options options, QString folder, QString prefix);
 
+    /// Starts the program; one that runs is ended first, without a word to it. Without a program nothing else may be
+    /// asked for.
+    [[nodiscard]] bool startProgram();
+    [[nodiscard]] bool hasProgram() const { return program_ != nullptr; }
     [[nodiscard]] Platform &platform();
     [[nodiscard]] Window &window();
     [[nodiscard]] RootViewConrollerViewController &menu();
@@ -46,17 +51,20 @@ public:
 
     /// Saves what the window shows.
     void takePicture(const QString &name);
+    /// Something is not as it should be: the tour fails in the end.
+    void complain(const QString &sentence) { complaints_.append(sentence); }
 
     [[nodiscard]] const QStringList &pictures() const { return pictures_; }
-    /// The pictures that could not be saved.
-    [[nodiscard]] const QStringList &failures() const { return failures_; }
+    [[nodiscard]] const QStringList &complaints() const { return complaints_; }
 
 private:
-    Program &program_;
+    const Program::Options options_;
     const QString folder_;
     const QString prefix_;
+    std::unique_ptr<Program> program_;
+    int stops_ = 0;
     QStringList pictures_;
-    QStringList failures_;
+    QStringList complaints_;
 };
 
 } // namespace kesto

@@ -3,7 +3,6 @@
 #include "app/RootViewConrollerViewController.h"
 #include "app/TourGuide.h"
 #include "components/AlertCenter.h"
-#include "components/NavigationController.h"
 #include "components/Shell.h"
 #include "model/Dish.h"
 #include "model/DishesCategory.h"
@@ -13,7 +12,6 @@
 #include "platform/StringTables.h"
 #include "recipes/CartViewController.h"
 #include "recipes/DishDetailViewController.h"
-#include "recipes/ImageViewController.h"
 #include "recipes/IngredientsViewController.h"
 #include "store/CoreDataManager.h"
 
@@ -39,9 +37,14 @@ Dish *someDish()
     return found.empty() ? nullptr : found.front();
 }
 
-/// The same as one that the user made, short enough to be seen whole.
+/// A dish that the user made, short enough to be seen whole.
 Dish *ownDish()
 {
+    FetchRequest request;
+    request.predicate = attribute("userCreated") == true;
+    request.fetchLimit = 1;
+    if (const std::vector<Dish *> made = context().fetch<Dish>(request); !made.empty())
+        return made.front();
     const Dish *model = someDish();
     if (model == nullptr)
         return nullptr;
@@ -77,9 +80,16 @@ void openPicture(TourGuide &guide)
 {
     openDish(someDish(), false);
     guide.settle();
-    if (auto *screen = guide.screenOf<DishDetailViewController>(); screen != nullptr && screen->navigationController())
-        screen->navigationController()->pushViewController(
-            std::make_unique<ImageViewController>(QStringLiteral("app_icon"), screen->name()), false);
+    if (auto *screen = guide.screenOf<DishDetailViewController>())
+        screen->showImageNamed(QStringLiteral("app_icon"));
+}
+
+void deleteOwnDish(TourGuide &guide)
+{
+    openDish(ownDish(), false);
+    guide.settle();
+    if (auto *screen = guide.screenOf<DishDetailViewController>())
+        screen->deleteDishIntro();
 }
 
 CartViewController *openCart(TourGuide &guide)
@@ -157,6 +167,7 @@ QList<TourStop> dishTourStops()
         {QStringLiteral("dish"), [](TourGuide &) { openDish(someDish(), false); }},
         {QStringLiteral("dish-to-choose"), [](TourGuide &) { openDish(someDish(), true); }},
         {QStringLiteral("own-dish"), [](TourGuide &) { openDish(ownDish(), false); }},
+        {QStringLiteral("own-dish-delete"), deleteOwnDish},
         {QStringLiteral("full-picture"), openPicture},
     };
 }

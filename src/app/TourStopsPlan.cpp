@@ -186,6 +186,20 @@ void dayOfStabilization(TourGuide &guide) { (void)openDay(guide, attackDays + 60
 
 } // namespace
 
+DietDayDetailViewController *openToday(TourGuide &guide)
+{
+    guide.openRow(RootViewConrollerViewController::calendarRow);
+    guide.settle();
+    auto *calendar = guide.screenOf<CalendarViewController>();
+    if (calendar == nullptr)
+        return nullptr;
+    calendar->showToday();
+    calendar->touchCell(calendar->month()->indexOfToday());
+    calendar->openDaySettings();
+    guide.settle();
+    return guide.screenOf<DietDayDetailViewController>();
+}
+
 QList<TourStop> calculatorTourStops()
 {
     return {

@@ -2,20 +2,15 @@
 
 #include "app/RootViewConrollerViewController.h"
 #include "app/TourGuide.h"
-#include "components/NavigationController.h"
-#include "components/Shell.h"
-#include "components/Window.h"
-#include "model/DietDay.h"
+#include "app/TourStopsPlan.h"
+#include "components/BarButtonItem.h"
 #include "model/Dish.h"
-#include "model/DishInDietDay.h"
 #include "model/DishesCategory.h"
-#include "model/JornalDay.h"
-#include "model/TimeRow.h"
-#include "platform/Clock.h"
-#include "platform/Platform.h"
+#include "plan/DietDayDetailViewController.h"
 #include "recipes/DishesCategoriesViewController.h"
 #include "recipes/DishesViewController.h"
 #include "recipes/FavoritesManager.h"
+#include "recipes/FavoritesViewController.h"
 #include "store/CoreDataManager.h"
 
 namespace kesto
@@ -57,34 +52,30 @@ void periodPopover(TourGuide &guide)
         screen->rightBarButtonItems().first()->trigger();
 }
 
-/// Today, with two dishes in its journal.
-DietDay &dayWithDishes(TourGuide &guide)
-{
-    ManagedObjectContext &context = *CoreDataManager::sharedManager().managedObjectContext();
-    const Calendar &calendar = guide.platform().calendar();
-    const QDateTime today = calendar.startOfDay(calendar.dayOf(guide.platform().clock().now()));
-    DietDay &day = DietDay::dietDatWithDate(today, context);
-    if (day.jornalDay() == nullptr)
-        context.insert<JornalDay>().setDay(&day);
-    auto &row = context.insert<TimeRow>();
-    row.setJoranlDay(day.jornalDay());
-    DishesViewController salads(0, &day, 0);
-    for (const int i : {1, 2}) {
-        auto &placed = context.insert<DishInDietDay>();
-        placed.setDish(const_cast<Dish *>(salads.tiles()->tiles()[i].dish));
-        placed.setJornalTimeRow(&row);
-    }
-    return day;
-}
-
 void addMode(TourGuide &guide)
 {
-    auto categories = std::make_unique<DishesCategoriesViewController>(&dayWithDishes(guide), 0);
-    DishesCategoriesViewController &screen = *categories;
-    guide.window().rootViewController()->presentViewController(
-        std::make_unique<NavigationController>(std::move(categories)), false);
+    DietDayDetailViewController *day = openToday(guide);
+    if (day == nullptr)
+        return;
+    day->selectRow(DietDayDetailViewController::AddSection, DietDayDetailViewController::AddDishRow);
     guide.settle();
-    screen.selectRow(0, 0);
+    if (auto *categories = guide.screenOf<DishesCategoriesViewController>())
+        categories->selectRow(0, 0);
+    guide.settle();
+    if (auto *salads = guide.screenOf<DishesViewController>())
+        salads->selectDishButtonTouchedAtIndexPath(1);
+}
+
+void addFavourite(TourGuide &guide)
+{
+    DietDayDetailViewController *day = openToday(guide);
+    if (day == nullptr)
+        return;
+    day->selectRow(DietDayDetailViewController::AddSection, DietDayDetailViewController::AddFavoriteRow);
+    guide.settle();
+    if (auto *favourites = guide.screenOf<FavoritesViewController>();
+        favourites != nullptr && !favourites->content().isEmpty())
+        favourites->selectDishButtonTouchedAtIndexPath({0, 0});
 }
 
 void favourites(TourGuide &guide)
@@ -111,6 +102,12 @@ QList<TourStop> catalogueTourStops()
     };
 }
 
-QList<TourStop> favouriteTourStops() { return {{QStringLiteral("favourites"), favourites}}; }
+QList<TourStop> favouriteTourStops()
+{
+    return {
+        {QStringLiteral("favourites"), favourites},
+        {QStringLiteral("add-favourite"), addFavourite},
+    };
+}
 
 } // namespace kesto

@@ -196,9 +196,13 @@ void DishDetailViewController::deleteDish()
 
 void DishDetailViewController::showImage()
 {
-    if (picture_.isEmpty())
-        return;
-    auto image = std::make_unique<ImageViewController>(picture_.section(u'.', 0, -2), name_);
+    if (!picture_.isEmpty())
+        showImageNamed(picture_.section(u'.', 0, -2));
+}
+
+void DishDetailViewController::showImageNamed(const QString &imageName)
+{
+    auto image = std::make_unique<ImageViewController>(imageName, name_);
     if (Window::sharedWindow().isTablet())
         presentPopover(std::move(image), QStringLiteral("dish/image"))->setSizeHint(imageSize);
     else if (NavigationController *navigation = navigationController())

@@ -61,6 +61,8 @@ public:
     void deleteDish();
     /// The photo as large as can be; nothing without one.
     Q_INVOKABLE void showImage();
+    /// Any picture in the place of the photo.
+    void showImageNamed(const QString &imageName);
 
 Q_SIGNALS:
     void contentChanged();
