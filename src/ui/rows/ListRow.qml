@@ -39,11 +39,54 @@ FocusScope {
     default property alias trailing: slot.data
     readonly property color quiet: available ? Tokens.colors.textQuiet : Tokens.colors.textDisabled
 
+    readonly property bool endTouchable: accessory === TableRow.CheckButton || accessory === TableRow.InfoButton
+    readonly property bool hasMore: subtitle.length > 0 || badges.length > 0
+
+    // Most rows are without most of these: each is made when there is something for it to show.
+    property Label detailLabel: null
+    property Column more: null
+    property Item end: null
+    property Item pictureFrame: null
+    property Item ring: null
+
+    // From the picture to the end, the title at the left and the trailing things at the right; the latter below if need be.
+    readonly property real contentX: Tokens.margin + (icon.visible ? icon.width + Tokens.gap : 0)
+    readonly property real contentWidth: (end ? end.x - (endTouchable ? 0 : Tokens.unit) : width - Tokens.margin) - contentX
+    readonly property real detailWidth: detailLabel ? detailLabel.implicitWidth : 0
+    readonly property real trailingWidth: slot.width + (detailLabel ? detailWidth + (slot.width > 0 ? Tokens.unit : 0) : 0)
+    readonly property real trailingHeight: detailLabel ? Math.max(detailLabel.height, slot.height) : slot.height
+    readonly property real room: trailingWidth > 0 ? contentWidth - trailingWidth - Tokens.gap : contentWidth
+    // The label's own width without a break depends on how it is broken.
+    readonly property bool stacked: trailingWidth > 0 && Tokens.bodyMetrics.advanceWidth(title) > room
+    readonly property real textsHeight: (titleLabel.visible ? titleLabel.height : 0) + (more ? more.height + (titleLabel.visible ? more.spacing : 0) : 0)
+    readonly property real contentHeight: stacked ? textsHeight + Tokens.half + trailingHeight : Math.max(textsHeight, trailingHeight)
+    readonly property real contentY: (height - contentHeight) / 2
+    readonly property real textsY: stacked ? contentY : (height - textsHeight) / 2
+    readonly property real trailingY: (stacked ? contentY + textsHeight + Tokens.half : (height - trailingHeight) / 2) + trailingHeight / 2
+
     signal activated
     signal accessoryTouched
 
+    /*! The part, made or ended as it is needed or not. */
+    function part(present: Item, needed: bool, component: Component): Item {
+        if (needed === (present !== null))
+            return present;
+        if (!needed) {
+            present.destroy();
+            return null;
+        }
+        return component.createObject(row) as Item;
+    }
+
+    onEndTouchableChanged: end = part(end, false, sign)
+    onAccessoryChanged: end = part(end, accessory !== TableRow.None, endTouchable ? touchable : sign)
+    onDetailChanged: detailLabel = part(detailLabel, detail.length > 0, details) as Label
+    onHasMoreChanged: more = part(more, hasMore, below) as Column
+    onFramedChanged: pictureFrame = part(pictureFrame, framed, frame)
+    onCurrentChanged: ring = part(ring, current, focusRing)
+
     implicitWidth: 320
-    implicitHeight: Math.max(Tokens.rowHeight, middle.height + 2 * Tokens.unit, icon.visible ? icon.height + 2 * Tokens.unit : 0)
+    implicitHeight: Math.max(Tokens.rowHeight, contentHeight + 2 * Tokens.unit, icon.visible ? icon.height + 2 * Tokens.unit : 0)
 
     Accessible.role: role
     Accessible.name: name
@@ -57,7 +100,7 @@ FocusScope {
         anchors.fill: parent
         first: row.first
         last: row.last
-        inset: Tokens.margin + (icon.visible ? icon.width + Tokens.gap : 0)
+        inset: row.contentX
         color: touch.pressed && touch.containsMouse && row.selectable ? Tokens.colors.pressed
             : row.selected ? Tokens.colors.pressed : Tokens.colors.surface
     }
@@ -72,103 +115,56 @@ FocusScope {
         id: icon
 
         x: Tokens.margin
-        anchors.verticalCenter: parent.verticalCenter
+        y: (row.height - height) / 2
         visible: row.picture.length > 0
         name: row.picture
         size: row.pictureSize
         color: !row.available ? Tokens.colors.textDisabled : row.destructive ? Tokens.colors.destructive : Tokens.colors.icon
-
-        Loader {
-            anchors.fill: parent
-            active: row.framed
-            sourceComponent: frame
-        }
     }
-    Item {
-        id: middle
+    Label {
+        id: titleLabel
 
-        readonly property real room: trailing.natural > 0 ? width - trailing.natural - Tokens.gap : width
-        // The label's own width without a break depends on how it is broken.
-        readonly property bool stacked: trailing.natural > 0 && Tokens.bodyMetrics.advanceWidth(row.title) > room
-
-        anchors.verticalCenter: parent.verticalCenter
-        x: icon.visible ? icon.x + icon.width + Tokens.gap : Tokens.margin
-        width: (end.visible ? end.x - (end.inset ? 0 : Tokens.unit) : row.width - Tokens.margin) - x
-        height: stacked ? texts.height + Tokens.half + trailing.height : Math.max(texts.height, trailing.height)
-
-        Column {
-            id: texts
-
-            y: middle.stacked ? 0 : (middle.height - height) / 2
-            width: middle.stacked ? middle.width : middle.room
-            spacing: 2
-
-            Label {
-                id: titleLabel
-
-                width: parent.width
-                visible: text.length > 0
-                text: row.title
-                color: !row.available ? Tokens.colors.textDisabled
-                    : row.destructive ? Tokens.colors.destructive
-                    : row.struckThrough ? Tokens.colors.textDisabled : row.titleColor
-                font.strikeout: row.struckThrough
-                font.weight: row.selected ? Font.Medium : row.titleWeight
-                maximumLineCount: 5
-                elide: Text.ElideRight
-                horizontalAlignment: row.centred ? Text.AlignHCenter : Text.AlignLeft
-            }
-            Loader {
-                width: parent.width
-                visible: active
-                active: row.subtitle.length > 0 || row.badges.length > 0
-                sourceComponent: below
-            }
-        }
-        Row {
-            id: trailing
-
-            readonly property real natural: slot.width + (detailLabel.visible ? detailLabel.implicitWidth + (slot.width > 0 ? spacing : 0) : 0)
-
-            anchors.right: parent.right
-            y: middle.stacked ? texts.height + Tokens.half : (middle.height - height) / 2
-            spacing: Tokens.unit
-
-            Label {
-                id: detailLabel
-
-                visible: text.length > 0
-                anchors.verticalCenter: parent.verticalCenter
-                width: Math.min(implicitWidth, middle.width)
-                text: row.detail
-                color: row.quiet
-                font.strikeout: row.struckThrough
-                horizontalAlignment: Text.AlignRight
-            }
-            Row {
-                id: slot
-
-                anchors.verticalCenter: parent.verticalCenter
-            }
-        }
+        x: row.contentX
+        y: row.textsY
+        width: row.stacked ? row.contentWidth : row.room
+        visible: text.length > 0
+        text: row.title
+        color: !row.available ? Tokens.colors.textDisabled
+            : row.destructive ? Tokens.colors.destructive
+            : row.struckThrough ? Tokens.colors.textDisabled : row.titleColor
+        font.strikeout: row.struckThrough
+        font.weight: row.selected ? Font.Medium : row.titleWeight
+        maximumLineCount: 5
+        elide: Text.ElideRight
+        horizontalAlignment: row.centred ? Text.AlignHCenter : Text.AlignLeft
     }
-    Loader {
-        id: end
+    Row {
+        id: slot
 
-        /*! A button brings its own distance along. */
-        readonly property bool inset: row.accessory === TableRow.CheckButton || row.accessory === TableRow.InfoButton
+        x: row.contentX + row.contentWidth - width
+        y: row.trailingY - height / 2
+    }
+    Component {
+        id: details
 
-        x: row.width - width - (inset ? Tokens.half : Tokens.margin)
-        anchors.verticalCenter: parent.verticalCenter
-        visible: active
-        active: row.accessory !== TableRow.None
-        sourceComponent: inset ? touchable : sign
+        Label {
+            x: row.contentX + row.contentWidth - width - (slot.width > 0 ? slot.width + Tokens.unit : 0)
+            y: row.trailingY - height / 2
+            width: Math.min(implicitWidth, row.contentWidth)
+            text: row.detail
+            color: row.quiet
+            font.strikeout: row.struckThrough
+            horizontalAlignment: Text.AlignRight
+        }
     }
     Component {
         id: below
 
         Column {
-            spacing: texts.spacing
+            x: titleLabel.x
+            y: row.textsY + row.textsHeight - height
+            width: titleLabel.width
+            spacing: 2
 
             Label {
                 width: parent.width
@@ -190,7 +186,7 @@ FocusScope {
                     Badge {
                         required property var modelData
 
-                        width: Math.min(implicitWidth, texts.width)
+                        width: Math.min(implicitWidth, titleLabel.width)
                         text: modelData.text
                         tone: modelData.color
                     }
@@ -202,6 +198,8 @@ FocusScope {
         id: sign
 
         Icon {
+            x: row.width - width - Tokens.margin
+            y: (row.height - height) / 2
             opacity: row.accessory === TableRow.Checkmark && !row.marked ? 0 : 1
             name: row.accessory === TableRow.Checkmark ? "check" : "chevron_right"
             size: row.accessory === TableRow.Checkmark ? Tokens.icon : Tokens.smallIcon
@@ -211,7 +209,10 @@ FocusScope {
     Component {
         id: touchable
 
+        // It brings its own distance along.
         IconButton {
+            x: row.width - width - Tokens.half
+            y: (row.height - height) / 2
             enabled: row.available
             picture: row.accessory === TableRow.InfoButton ? "info_icon" : row.checked ? "checkmarkButton_selected" : "checkmarkButton"
             color: row.checked ? Tokens.colors.accent : Tokens.colors.tint
@@ -226,15 +227,19 @@ FocusScope {
         id: frame
 
         Rectangle {
+            anchors.fill: icon
+            visible: icon.visible
             color: "transparent"
             border.width: Tokens.hairline
             border.color: Tokens.colors.photoLine
         }
     }
-    Loader {
-        anchors.fill: parent
-        anchors.margins: 2
-        active: row.current
-        sourceComponent: FocusRing { shown: true }
+    Component {
+        id: focusRing
+
+        FocusRing {
+            anchors.margins: 2
+            shown: true
+        }
     }
 }

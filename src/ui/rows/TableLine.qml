@@ -23,6 +23,8 @@ LineItem {
     readonly property alias room: swipe
     readonly property alias sliding: loader
     property bool complete: false
+    property Loader tools: null
+    readonly property bool toolsNeeded: isRow && (canDelete || editing && canMove)
     /*! Lines keep their place and change their nature when a section is replaced. */
     readonly property string source: {
         if (!isRow)
@@ -113,20 +115,20 @@ LineItem {
         }
     }
     // Most tables are never edited: their rows do without what edits them, and its file is not read.
-    Loader {
-        id: tools
-
-        readonly property bool needed: line.isRow && (line.canDelete || line.editing && line.canMove)
-
-        anchors.fill: parent
-        onNeededChanged: {
-            if (needed) {
-                setSource("LineTools.qml", { line: line });
-            } else {
-                sourceComponent = undefined;
-                line.before = line.after = loader.x = 0;
-            }
+    onToolsNeededChanged: {
+        if (toolsNeeded) {
+            tools = toolsComponent.createObject(line) as Loader;
+            tools.setSource("LineTools.qml", { line: line });
+        } else if (tools) {
+            tools.destroy();
+            tools = null;
+            before = after = loader.x = 0;
         }
+    }
+    Component {
+        id: toolsComponent
+
+        Loader { anchors.fill: parent }
     }
     function draw(): void {
         loader.setSource(source.length > 0 ? source : "TextLine.qml", { line: line });
