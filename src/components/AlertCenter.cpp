@@ -56,6 +56,8 @@ void ShownAlert::answer(int buttonIndex)
 {
     if (done_ || buttonIndex < 0 || buttonIndex >= alert_.buttons.size())
         return;
+    if (datePicker_)
+        datePicker_->settle();
     done_ = true;
     Q_EMIT answered(buttonIndex);
 }

@@ -56,6 +56,61 @@ Item {
             compare(Samples.alertCenter.current, null);
         }
 
+        function wheel(index) {
+            return stage.all(stage, item => item.hasOwnProperty("visibleRows"))[index];
+        }
+        /*! What somebody reads in the middle of a wheel. */
+        function shown(wheel) {
+            const middle = wheel.mapToItem(stage, wheel.width / 2, wheel.height / 2);
+            return stage.all(wheel, item => item.hasOwnProperty("lineCount")).filter(label => {
+                const top = label.mapToItem(stage, 0, 0).y;
+                return top < middle.y && top + label.height > middle.y;
+            }).map(label => label.text);
+        }
+
+        function test_theWheelsShowTheDayThatTheyAnswer_data() {
+            const next = Qt.Key_Down;
+            return [
+                { tag: "30 days after", day: [2026, 10, 23], keys: [next], shown: ["23", "December", "2026"], answer: "2026-12-23" },
+                { tag: "31 days after", day: [2024, 2, 7], keys: [next], shown: ["7", "April", "2024"], answer: "2024-04-07" },
+                { tag: "the last of April", day: [2024, 3, 30], keys: [next], shown: ["30", "May", "2024"], answer: "2024-05-30" },
+                { tag: "the last of January", day: [2024, 0, 31], keys: [next], shown: ["29", "February", "2024"], answer: "2024-02-29" },
+                { tag: "another year", day: [2024, 1, 29], keys: [Qt.Key_Right, next], shown: ["28", "February", "2025"], answer: "2025-02-28" },
+            ];
+        }
+        function test_theWheelsShowTheDayThatTheyAnswer(data) {
+            Samples.askDate(new Date(Date.UTC(data.day[0], data.day[1], data.day[2], 12)));
+            keyClick(Qt.Key_Right);
+            data.keys.forEach(key => keyClick(key));
+            tryVerify(() => JSON.stringify([0, 1, 2].map(i => shown(wheel(i))[0])) === JSON.stringify(data.shown),
+                      1000, JSON.stringify([0, 1, 2].map(i => shown(wheel(i)))));
+            keyClick(Qt.Key_Return);
+            compare(Samples.answers[0].slice(4, 14), data.answer);
+        }
+
+        function test_aWheelThatStillTurnsIsAnswered_data() {
+            return [
+                { tag: "by a button", answer: () => mouseClick(stage.all(stage, item => item.text === "Yes" && item.hasOwnProperty("primary"))[0]) },
+                { tag: "by Enter on another wheel", answer: () => { wheel(0).forceActiveFocus(); keyClick(Qt.Key_Return); } },
+            ];
+        }
+        function test_aWheelThatStillTurnsIsAnswered(data) {
+            Samples.askDate(new Date(Date.UTC(2024, 2, 7, 12)));
+            const year = wheel(2);
+            const y = year.height / 2;
+            touchEvent(year).press(1, year, year.width / 2, y).commit();
+            for (let step = 1; step <= 10; ++step) {
+                touchEvent(year).move(1, year, year.width / 2, y - step * year.rowHeight * 0.24).commit();
+                wait(20);
+            }
+            verify(year.moving);
+            const row = shown(year)[0];
+            verify(Number(row) > 2024);
+            data.answer();
+            compare(Samples.answers[0].slice(4, 8), row);
+            touchEvent(stage).release(1, stage, 10, 10).commit();
+        }
+
         function test_aKeyThatIsStillHeldDoesNotAnswer_data() {
             return [
                 { tag: "buttons", ask: () => Samples.ask(), answer: "Yes" },

@@ -14,6 +14,12 @@ Item {
 
         WheelPicker { width: scene.width }
     }
+    TextField {
+        id: field
+
+        y: 340
+        width: 100
+    }
     SignalSpy {
         id: spy
 
@@ -152,6 +158,32 @@ Item {
             const row0 = selected()[0];
             verify(row0 >= 31 && row0 <= 33, "row " + row0);
             compare(selected()[1], 5);
+        }
+
+        function test_aWheelThatIsTurnedTakesTheKeys_data() {
+            const x = 155;
+            const drag = () => {
+                mousePress(wheels, x, wheels.height / 2);
+                for (let step = 1; step <= 10; ++step)
+                    mouseMove(wheels, x, wheels.height / 2 - step * 8, 10);
+            };
+            return [
+                { tag: "dragged", turn: drag, end: () => mouseRelease(wheels, x, wheels.height / 2 - 80) },
+                { tag: "mouse wheel", turn: () => mouseWheel(wheels, x, wheels.height / 2, 0, -120), end: () => {} },
+            ];
+        }
+        function test_aWheelThatIsTurnedTakesTheKeys(data) {
+            let rowThen = -1;
+            const leave = () => rowThen = selected()[0];
+            field.forceActiveFocus();
+            field.activeFocusChanged.connect(leave);
+            data.turn();
+            field.activeFocusChanged.disconnect(leave);
+            compare(rowThen, 30, "before anything is chosen");
+            data.end();
+            tryVerify(() => selected()[0] > 30);
+            keyClick(Qt.Key_Home);
+            compare(selected(), [0, 5]);
         }
 
         function test_followsTheProgram() {

@@ -78,7 +78,6 @@ Item {
     Accessible.onDecreaseAction: turn(view.currentIndex - 1)
 
     onCurrentChanged: if (!view.moving) follow()
-    onTitlesChanged: follow()
     Component.onDestruction: settleIfMoving()
 
     Keys.onPressed: event => {
@@ -130,8 +129,13 @@ Item {
         maximumFlickVelocity: 3500
         boundsBehavior: Flickable.StopAtBounds
         Accessible.ignored: true
+        onMovementStarted: column.forceActiveFocus(Qt.MouseFocusReason) // a field that had the keys tells what it holds
         onMovementEnded: column.settle()
-        Component.onCompleted: {
+        // Other titles begin with the first one.
+        onModelChanged: place()
+        Component.onCompleted: place()
+
+        function place(): void {
             currentIndex = column.current;
             positionViewAtIndex(Math.max(0, column.current), ListView.SnapPosition);
         }
@@ -175,8 +179,10 @@ Item {
                 turned += event.angleDelta.y;
                 const steps = Math.trunc(turned / 120);
                 turned -= steps * 120;
-                if (steps !== 0)
-                    column.turn(view.currentIndex - steps);
+                if (steps === 0)
+                    return;
+                column.forceActiveFocus(Qt.MouseFocusReason);
+                column.turn(view.currentIndex - steps);
             }
         }
     }
