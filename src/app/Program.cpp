@@ -6,6 +6,8 @@
 
 #include <QGuiApplication>
 #include <QIcon>
+#include <QPointer>
+#include <QQuickItem>
 #include <QScreen>
 
 #include <algorithm>
@@ -102,8 +104,22 @@ void Program::showInterface()
         shown.showMaximized();
 }
 
+void Program::endEditing()
+{
+    const QPointer<QQuickItem> editor = view().activeFocusItem();
+    if (editor == nullptr)
+        return;
+    editor->setFocus(false);
+    if (editor != nullptr)
+        editor->setFocus(true);
+}
+
 void Program::followSystem()
 {
+    // First: what others do then includes saving and locking.
+    connect(&lifecycle_, &ApplicationLifecycle::didEnterBackground, this, &Program::endEditing);
+    connect(&view(), SIGNAL(closing(QQuickCloseEvent *)), this, SLOT(endEditing())); // its event is no public type
+    connect(qGuiApp, &QCoreApplication::aboutToQuit, this, &Program::endEditing);
     connect(&desktopSettings_, &DesktopSettings::animationsChanged, &userInterface_->appearance(),
             &Appearance::setMotion);
     connect(&lifecycle_, &ApplicationLifecycle::didEnterBackground, delegate_.get(),

@@ -52,6 +52,8 @@ private:
     void arrangeWindow(const Options &options);
     void showInterface();
     void followSystem();
+    /// A field tells what was typed into it; it keeps the keys.
+    Q_SLOT void endEditing();
 
     std::unique_ptr<ApplicationServices> services_;
     std::unique_ptr<AppDelegate> delegate_;
