@@ -114,6 +114,12 @@ void TableViewController::selectRow(int section, int row)
         didSelectRow(*contentPath({section, row}));
 }
 
+void TableViewController::editingTextChanged(int section, int row, const QString &text)
+{
+    if (const TableRow *touched = touchedRow(section, row); touched && touched->kind == TableRow::Kind::Editable)
+        textFieldTextDidChange(*contentPath({section, row}), touched->tag, text);
+}
+
 void TableViewController::endEditingText(int section, int row, const QString &text)
 {
     const TableRow *touched = touchedRow(section, row);
@@ -180,6 +186,7 @@ bool TableViewController::canMoveRow(const IndexPath &from, const IndexPath &to)
 }
 
 void TableViewController::didSelectRow(const IndexPath &) {}
+void TableViewController::textFieldTextDidChange(const IndexPath &, int, const QString &) {}
 void TableViewController::textFieldDidEndEditing(const IndexPath &, int, const QString &) {}
 void TableViewController::switchChanged(const IndexPath &, bool) {}
 void TableViewController::accessoryTouched(const IndexPath &) {}

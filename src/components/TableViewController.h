@@ -47,6 +47,8 @@ public:
     /// offer, are ignored. A row keeps the text or the state that the user gave it until it is reloaded.
     /// Not while editing.
     Q_INVOKABLE void selectRow(int section, int row);
+    /// While the user types; endEditingText() follows with what is typed in the end, if anything.
+    Q_INVOKABLE void editingTextChanged(int section, int row, const QString &text);
     Q_INVOKABLE void endEditingText(int section, int row, const QString &text);
     Q_INVOKABLE void turnSwitch(int section, int row, bool on);
     Q_INVOKABLE void touchAccessory(int section, int row);
@@ -60,6 +62,8 @@ Q_SIGNALS:
 
 protected:
     virtual void didSelectRow(const IndexPath &path);
+    /// Nothing is to be stored yet. Also told when the user gives up, with what the field held.
+    virtual void textFieldTextDidChange(const IndexPath &path, int tag, const QString &text);
     virtual void textFieldDidEndEditing(const IndexPath &path, int tag, const QString &text);
     virtual void switchChanged(const IndexPath &path, bool on);
     virtual void accessoryTouched(const IndexPath &path);

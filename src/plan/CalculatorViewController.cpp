@@ -15,6 +15,7 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <limits>
 
 namespace kesto
 {
@@ -23,6 +24,12 @@ namespace
 {
 
 UserDefaults &defaults() { return Platform::current().userDefaults(); }
+
+/// What a typed length of a phase means.
+int typedLength(int period, int days)
+{
+    return std::clamp(days, 1, period == 0 ? CalculatorViewController::longestAttack : std::numeric_limits<int>::max());
+}
 
 QString keyOf(CalculatorInput input) { return CalculatorViewController::keys()[0][static_cast<int>(input)]; }
 
@@ -164,9 +171,22 @@ void CalculatorViewController::textFieldDidEndEditing(int tag, const QString &te
     const int index = tag - firstPeriodTag;
     if (index < 0 || index >= periodCount)
         return;
-    periods_[static_cast<size_t>(index)] = std::clamp(integerValue(text), 1, longestPeriod);
+    periods_[static_cast<size_t>(index)] = typedLength(index, integerValue(text));
     reloadRow({PhasesSection, index});
     reloadRow({PhasesSection, phaseBarRow});
+}
+
+void CalculatorViewController::textFieldTextDidChange(const IndexPath &, int tag, const QString &text)
+{
+    const int index = tag - firstPeriodTag;
+    const std::optional<int> days = wholeNumber(text);
+    if (index < 0 || index >= periodCount || !days)
+        return;
+    std::array<int, periodCount> periods = periods_;
+    periods[static_cast<size_t>(index)] = typedLength(index, *days);
+    const IndexPath bar = shownPath({PhasesSection, phaseBarRow});
+    if (table()->contains(bar))
+        table()->setRow(bar, barRow(periods));
 }
 
 void CalculatorViewController::didSelectRow(const IndexPath &path)
@@ -203,7 +223,7 @@ TableRow CalculatorViewController::cellForRow(const IndexPath &path) const
     case ResultsSection:
         return resultRow(path.row);
     case PhasesSection:
-        return path.row == phaseBarRow ? barRow() : periodRow(path.row);
+        return path.row == phaseBarRow ? barRow(periods_) : periodRow(path.row);
     default:
         return {.kind = TableRow::Kind::Button, .title = localized(QStringLiteral("Начать Диету"))};
     }
@@ -286,7 +306,7 @@ TableRow CalculatorViewController::periodRow(int row) const
                     localized(QStringLiteral("дней")));
 }
 
-TableRow CalculatorViewController::barRow() const
+TableRow CalculatorViewController::barRow(const std::array<int, periodCount> &periods) const
 {
     const Platform &platform = Platform::current();
     const QDate today = platform.calendar().dayOf(platform.clock().now());
@@ -297,7 +317,7 @@ TableRow CalculatorViewController::barRow() const
             .title = start,
             .selectable = false,
             .cell = QStringLiteral("PhaseBarCell"),
-            .value = phaseBar(phaseSpans(periods_[0], periods_[1], periods_[2]), today)};
+            .value = phaseBar(phaseSpans(periods[0], periods[1], periods[2]), today)};
 }
 
 } // namespace kesto

@@ -24,8 +24,8 @@ public:
     static constexpr int periodCount = 3;
     /// The bar of the phases, below their fields.
     static constexpr int phaseBarRow = periodCount;
-    /// A century: longer is no plan, and no calendar could be filled with it.
-    static constexpr int longestPeriod = 36500;
+    /// A typed Attack is no longer than a century: every day of it becomes a record.
+    static constexpr int longestAttack = 36500;
 
     explicit CalculatorViewController(QObject *parent = nullptr);
 
@@ -81,6 +81,8 @@ protected:
     void viewDidLoad() override;
     void viewWillAppear() override;
     void didSelectRow(const IndexPath &path) override;
+    /// The bar follows a length that is being typed.
+    void textFieldTextDidChange(const IndexPath &path, int tag, const QString &text) override;
     void textFieldDidEndEditing(const IndexPath &path, int tag, const QString &text) override;
     [[nodiscard]] int numberOfComponentsInPicker() const override { return wheels().numberOfComponents(); }
     [[nodiscard]] int numberOfRowsInComponent(int component) const override { return wheels().numberOfRows(component); }
@@ -95,7 +97,7 @@ private:
     [[nodiscard]] TableRow inputRow(int row) const;
     [[nodiscard]] TableRow resultRow(int row) const;
     [[nodiscard]] TableRow periodRow(int row) const;
-    [[nodiscard]] TableRow barRow() const;
+    [[nodiscard]] TableRow barRow(const std::array<int, periodCount> &periods) const;
     [[nodiscard]] TableRow fieldRow(const QString &title, const IndexPath &path, const QString &text,
                                     const QString &unit) const;
     [[nodiscard]] double shownWeight(float kilograms) const;

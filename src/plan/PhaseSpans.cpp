@@ -36,7 +36,9 @@ QVariantList phaseBar(const QList<PhaseSpan> &spans, const QDate &start)
 {
     const QLocale locale(Platform::current().strings().preferredLanguage());
     const auto dayText = [&](const QDate &day, int knownYear) {
-        return locale.toString(day, day.year() == knownYear ? QStringLiteral("d MMM") : QStringLiteral("d MMM yyyy"));
+        QString text =
+            locale.toString(day, day.year() == knownYear ? QStringLiteral("d MMM") : QStringLiteral("d MMM yyyy"));
+        return text.replace(u' ', QChar::Nbsp); // a line ends after the dash or not at all
     };
     QVariantList bar;
     for (const PhaseSpan &span : spans) {
@@ -44,9 +46,9 @@ QVariantList phaseBar(const QList<PhaseSpan> &spans, const QDate &start)
         const QDate last = first.addDays(span.days.value_or(1) - 1);
         QString dates = dayText(first, span.days > 1 && first.year() == last.year() ? last.year() : start.year());
         if (!span.days)
-            dates += QStringLiteral(" – …");
+            dates += QStringLiteral("\u00a0–\u00a0…");
         else if (last > first)
-            dates += QStringLiteral(" – ") + dayText(last, start.year());
+            dates += QStringLiteral("\u00a0– ") + dayText(last, start.year());
         bar.append(QVariantMap{
             {QStringLiteral("name"), CoreDataManager::periodNameForDietPeriod(span.phase)},
             {QStringLiteral("color"), CoreDataManager::colorForPeriod(span.phase).value_or(QColor())},

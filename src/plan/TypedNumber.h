@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace kesto
 {
 
@@ -9,7 +11,10 @@ namespace kesto
 /// A number out of range becomes the nearest in range.
 [[nodiscard]] float floatValue(const QString &text);
 
-/// The whole number that a typed text begins with; 0 when it begins with none. Likewise limited.
+/// The whole number that a typed text begins with; nothing when it begins with none. Likewise limited.
+[[nodiscard]] std::optional<int> wholeNumber(const QString &text);
+
+/// The same, 0 when the text begins with none.
 [[nodiscard]] int integerValue(const QString &text);
 
 } // namespace kesto

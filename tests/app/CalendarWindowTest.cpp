@@ -1,7 +1,14 @@
+#include "app/MainJob.h"
 #include "app/WindowFixture.h"
+#include "components/Shell.h"
+#include "model/DietDay.h"
+#include "plan/CalculatorViewController.h"
 #include "platform/Calendar.h"
+#include "recipes/CartViewController.h"
+#include "store/CoreDataManager.h"
 
 #include <QAccessible>
+#include <QGuiApplication>
 #include <QLocale>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -78,6 +85,70 @@ TEST_F(CalendarWindowTest, FieldsStandUnderEachOther)
         EXPECT_EQ(field.left(), fields.first().left());
         EXPECT_EQ(field.right(), fields.first().right());
     }
+}
+
+// Whoever leaves the program with a field open has meant what is in it.
+TEST_F(CalendarWindowTest, WhatIsBeingTypedIsStoredWhenTheProgramGoes)
+{
+    const auto restart = [this] { start(Device::Phone, QSize(390, 844), QStringLiteral("en")); };
+    const auto openCart = [] { Shell::current()->openDetailViewController(std::make_unique<CartViewController>()); };
+    restart();
+    CoreDataManager::sharedManager().addIngredientToCard(QStringLiteral("tea"));
+    for (const bool closes : {false, true}) {
+        const auto leave = [&](const QString &field) {
+            if (closes) {
+                program_->view().close();
+            } else {
+                Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationSuspended);
+                EXPECT_EQ(person().focus().toStdString(), field.toStdString()) << "for the return";
+                Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+            }
+            restart();
+        };
+        const QString typed = closes ? QStringLiteral("82") : QStringLiteral("81");
+        const QString weight = QStringLiteral("Weight, kg");
+        ASSERT_TRUE(person().touches(QAccessible::EditableText, weight));
+        person().types(typed);
+        leave(weight);
+        ManagedObjectContext &context = *CoreDataManager::sharedManager().managedObjectContext();
+        const Calendar calendar;
+        const QDateTime today = calendar.startOfDay(calendar.dayOf(QDateTime::currentDateTimeUtc()));
+        const DietDay *day = DietDay::dayWithoutCreation(today, context);
+        EXPECT_EQ(day != nullptr ? day->weight() : std::nullopt, typed.toFloat()) << "closes: " << closes;
+
+        openCart();
+        const QString quantity = QStringLiteral("Quantity: tea");
+        ASSERT_TRUE(person().touches(QAccessible::EditableText, quantity));
+        person().types(typed);
+        leave(quantity);
+        EXPECT_EQ(shoppingList(), QStringList{QStringLiteral("tea=") + typed}) << "closes: " << closes;
+    }
+}
+
+TEST_F(CalendarWindowTest, TheBarFollowsWhatIsTypedIntoALength)
+{
+    start(Device::Phone, QSize(390, 1600), QStringLiteral("en"));
+    auto made = std::make_unique<CalculatorViewController>();
+    CalculatorViewController &screen = *made;
+    Shell::current()->openDetailViewController(std::move(made));
+    const auto days = [&screen] {
+        const TableRow &bar =
+            screen.table()->rowAt({CalculatorViewController::PhasesSection, CalculatorViewController::phaseBarRow});
+        return bar.value.toList().value(0).toMap()[QStringLiteral("days")].toInt();
+    };
+    const Person user = person();
+    ASSERT_TRUE(user.touches(QAccessible::EditableText, QStringLiteral("1 Phase. Attack, d")));
+    ASSERT_EQ(days(), 2);
+    user.types(QStringLiteral("7"));
+    EXPECT_EQ(days(), 7);
+    user.types(QStringLiteral("5"));
+    EXPECT_EQ(days(), 75);
+    user.presses(Qt::Key_Backspace);
+    user.presses(Qt::Key_Backspace);
+    EXPECT_EQ(days(), 7) << "nothing is no number";
+    EXPECT_EQ(screen.period1(), 2);
+    user.presses(Qt::Key_Escape);
+    EXPECT_EQ(days(), 2);
 }
 
 } // namespace

@@ -108,6 +108,8 @@ testing::AssertionResult Person::drags(QAccessible::Role role, const QString &na
 
 testing::AssertionResult Person::scrollsTo(QAccessible::Role role, const QString &name, QPointF place) const
 {
+    constexpr auto interval = 20; // milliseconds
+    static quint64 moment = 0;
     const QPointF at(window_.width() * place.x(), window_.height() * place.y());
     for (const int turn : {-120, 120}) {
         for (int i = 0; i < 60; ++i) {
@@ -115,8 +117,9 @@ testing::AssertionResult Person::scrollsTo(QAccessible::Role role, const QString
                 return testing::AssertionSuccess();
             QWheelEvent event(at, window_.mapToGlobal(at), {}, QPoint(0, turn), Qt::NoButton, Qt::NoModifier,
                               Qt::NoScrollPhase, false);
+            event.setTimestamp(moment += interval);
             QCoreApplication::sendEvent(&window_, &event);
-            QTest::qWait(20);
+            QTest::qWait(interval);
         }
     }
     return told(false, name);

@@ -245,19 +245,23 @@ TEST(Calculator, TakesWhateverIsTypedIntoItsFields)
                                          {"-5", -5, 1, "1"},
                                          {"0.9", 0.9F, 1, "1"},
                                          {"36500", 36500, 36500, "36500"},
-                                         {"36501", 36501, 36500, "36500"},
-                                         {"99999999999999", 99999999999999.0F, 36500, "36500"}}) {
+                                         {"36501", 36501, 36501, "36501"},
+                                         {"2147483647", 2147483647.0F, 2147483647, "2147483647"},
+                                         {"2147483648", 2147483648.0F, 2147483647, "2147483647"},
+                                         {"1000000000000000000", 1e18F, 2147483647, "2147483647"}}) {
         screen.endEditingText(1, 3, QString::fromUtf8(each.text));
         EXPECT_EQ(screen.wantedWeight(), each.wanted) << each.text;
         EXPECT_EQ(screen.difWeight(), 60 - each.wanted) << each.text;
         for (int row = 0; row < 3; ++row)
             screen.endEditingText(2, row, QString::fromUtf8(each.text));
-        EXPECT_EQ(screen.table()->rowAt({2, 0}).text, QString::fromUtf8(each.shown));
-        EXPECT_EQ(screen.period1(), each.length) << each.text;
+        const int attack = std::min(each.length, CalculatorViewController::longestAttack);
+        EXPECT_EQ(screen.table()->rowAt({2, 0}).text, QString::number(attack));
+        EXPECT_EQ(screen.table()->rowAt({2, 2}).text, QString::fromUtf8(each.shown));
+        EXPECT_EQ(screen.period1(), attack) << each.text;
         EXPECT_EQ(screen.period2(), each.length) << each.text;
         EXPECT_EQ(screen.period3(), each.length) << each.text;
     }
-    EXPECT_EQ(screen.wantedWeight(), 99999999999999.0F) << "lengths do not touch the weight";
+    EXPECT_EQ(screen.wantedWeight(), 1e18F) << "lengths do not touch the weight";
 }
 
 TEST(Calculator, TakesATypedWeightAsKilogramsInPoundsToo)
@@ -297,7 +301,7 @@ TEST(Calculator, BarFollowsEveryEdit)
     const auto bar = [&] {
         QStringList dates;
         for (const QVariant &span : screen.table()->rowAt({2, 3}).value.toList())
-            dates.append(span.toMap()[QStringLiteral("dates")].toString());
+            dates.append(span.toMap()[QStringLiteral("dates")].toString().replace(QChar::Nbsp, u' '));
         return dates;
     };
     EXPECT_EQ(bar(), texts({"7 Mar – 8 Mar", "9 Mar – …"}));
@@ -305,6 +309,24 @@ TEST(Calculator, BarFollowsEveryEdit)
     EXPECT_EQ(bar(), texts({"7 Mar – 9 Mar", "10 Mar – 13 Apr", "14 Apr – 2 Jun", "3 Jun – …"}));
     screen.endEditingText(2, 1, QStringLiteral("1"));
     EXPECT_EQ(bar(), texts({"7 Mar – 9 Mar", "10 Mar", "11 Mar – 29 Apr", "30 Apr – …"}));
+
+    // Also while something is typed, but then it is not taken yet.
+    for (const auto &[typed, shown] :
+         {std::pair("5", "10 Mar – 14 Mar"), std::pair("5x", "10 Mar – 14 Mar"), std::pair("x", "10 Mar – 14 Mar"),
+          std::pair("", "10 Mar – 14 Mar"), std::pair("0", "10 Mar"), std::pair("-3", "10 Mar"),
+          std::pair("99999999999", "10 Mar – 17 Sep 5881634")}) {
+        screen.editingTextChanged(2, 1, QString::fromUtf8(typed));
+        EXPECT_EQ(bar()[1].toStdString(), shown) << typed;
+        EXPECT_EQ(screen.period2(), 1);
+        EXPECT_EQ(screen.table()->rowAt({2, 1}).text, QStringLiteral("1"));
+    }
+    screen.editingTextChanged(2, 0, QStringLiteral("99999999999"));
+    EXPECT_EQ(bar()[1].toStdString(), "12 Feb 2124") << "the Attack has an end, and the other phases are as they were";
+    for (const IndexPath &other : {IndexPath{1, 3}, IndexPath{0, 0}, IndexPath{2, 3}, IndexPath{9, 9}})
+        screen.editingTextChanged(other.section, other.row, QStringLiteral("77"));
+    EXPECT_EQ(bar()[1].toStdString(), "12 Feb 2124");
+    screen.endEditingText(2, 1, QStringLiteral("2"));
+    EXPECT_EQ(bar(), texts({"7 Mar – 9 Mar", "10 Mar – 11 Mar", "12 Mar – 30 Apr", "1 May – …"}));
 }
 
 TEST(Calculator, BarBeginsWithTheNewDayAfterMidnight)
@@ -313,7 +335,13 @@ TEST(Calculator, BarBeginsWithTheNewDayAfterMidnight)
     auto made = std::make_unique<CalculatorViewController>();
     CalculatorViewController &screen = *made;
     const auto first = [&] {
-        return screen.table()->rowAt({2, 3}).value.toList().value(0).toMap()[QStringLiteral("dates")].toString();
+        return screen.table()
+            ->rowAt({2, 3})
+            .value.toList()
+            .value(0)
+            .toMap()[QStringLiteral("dates")]
+            .toString()
+            .replace(QChar::Nbsp, u' ');
     };
     const InWindow shown(std::move(made));
     ASSERT_EQ(first(), QStringLiteral("7 Mar – 8 Mar"));

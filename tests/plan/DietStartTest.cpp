@@ -38,6 +38,34 @@ struct Start
     std::unique_ptr<CalculatorViewController> screen;
 };
 
+TEST(DietStart, KeepsTheLongestLengthsAsTheyAreShown)
+{
+    Start start({.language = QStringLiteral("en")});
+    start.screen->endEditingText(2, 0, QStringLiteral("3"));
+    for (int row = 1; row < 3; ++row)
+        start.screen->endEditingText(2, row, QStringLiteral("99999999999999999999"));
+    const auto spans = start.screen->table()->rowAt({2, 3}).value.toList();
+    ASSERT_EQ(spans.size(), 4);
+    for (int i = 1; i < 3; ++i)
+        EXPECT_EQ(spans[i].toMap()[QStringLiteral("days")].toLongLong(), std::numeric_limits<int>::max());
+    start.startOn(start.program.dayStart(2024, 3, 7));
+    start.screen.reset();
+    start.shell.reset();
+    start.program.restart();
+    EXPECT_EQ(start.program.defaults().integerForKey(Keys::kPeriod2Key), std::numeric_limits<int>::max());
+    EXPECT_EQ(start.program.defaults().integerForKey(Keys::kPeriod3Key), std::numeric_limits<int>::max());
+    EXPECT_EQ(start.program.days().size(), 3);
+    CalendarViewController calendar;
+    calendar.loadViewIfNeeded();
+    EXPECT_EQ(calendar.periodName(), QStringLiteral("Attack"));
+    for (const QDate &month : {QDate(2024, 4, 1), QDate(9999, 12, 1)}) {
+        calendar.month()->showMonth(month);
+        const auto &cells = calendar.month()->cells();
+        EXPECT_TRUE(std::all_of(cells.begin(), cells.end(), [](const auto &cell) { return cell.dietPeriod == 1; }))
+            << month.year();
+    }
+}
+
 TEST(DietStart, LeadsFromAFreshProgramToTheCalendar)
 {
     for (const auto &[language, metric, title, cancel, go, period, weight] :
@@ -215,7 +243,7 @@ TEST(DietStart, TakesDatesYearsAwayAndTheLongestAttack)
     start.screen->endEditingText(2, 0, QStringLiteral("4000000000"));
     start.startOn(start.program.dayStart(2123, 7, 1));
     EXPECT_EQ(start.program.manager().startDietDay(), start.program.dayStart(2123, 7, 1));
-    EXPECT_EQ(start.program.days().size(), CalculatorViewController::longestPeriod);
+    EXPECT_EQ(start.program.days().size(), CalculatorViewController::longestAttack);
     ASSERT_NE(start.shell->calendar, nullptr);
     EXPECT_TRUE(start.shell->calendar->isDayDisabled()) << "today is long before";
     EXPECT_FALSE(start.shell->calendar->footer()->isEnabled());

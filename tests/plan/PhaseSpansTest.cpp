@@ -59,9 +59,9 @@ TEST(PhaseSpans, AreDrawnWithTheirDates)
         return lines;
     };
     EXPECT_EQ(dates(phaseBar(phaseSpans(1, 25, 400), QDate(2024, 2, 5))),
-              QStringList({QStringLiteral("Attack: 5 Feb"), QStringLiteral("Cruise: 6 Feb – 1 Mar"),
-                           QStringLiteral("Consolidation: 2 Mar – 5 Apr 2025"),
-                           QStringLiteral("Stabilization: 6 Apr 2025 – …")}));
+              QStringList({QStringLiteral("Attack: 5\u00a0Feb"), QStringLiteral("Cruise: 6\u00a0Feb\u00a0– 1\u00a0Mar"),
+                           QStringLiteral("Consolidation: 2\u00a0Mar\u00a0– 5\u00a0Apr\u00a02025"),
+                           QStringLiteral("Stabilization: 6\u00a0Apr\u00a02025\u00a0–\u00a0…")}));
 }
 
 } // namespace

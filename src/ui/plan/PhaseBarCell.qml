@@ -63,7 +63,7 @@ Item {
             id: legend
 
             width: parent.width
-            columns: width > 480 ? 4 : 2
+            columns: width > 300 ? 2 : 1
             columnSpacing: Tokens.gap
             rowSpacing: Tokens.unit
 

@@ -4,6 +4,7 @@ import Kesto
 /*! A row with a field. */
 FieldRow {
     required property TableLine line
+    readonly property string typing: field.text
 
     picture: line.image
     title: line.title
@@ -19,6 +20,7 @@ FieldRow {
     unit: line.unit
     keyboard: line.keyboard
     onBegan: line.table.fieldEntered(line)
+    onTypingChanged: if (field.activeFocus) line.controller.editingTextChanged(line.section, line.row, typing)
     onCommitted: text => line.controller.endEditingText(line.section, line.row, text)
     onFinished: line.table.fieldLeft()
     Keys.onTabPressed: event => line.table.tabbed(line, 1, event)
