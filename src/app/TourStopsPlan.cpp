@@ -24,6 +24,7 @@ namespace
 
 constexpr int daysSinceStart = 3;
 constexpr int attackDays = 5;
+constexpr int cruiseDays = 60;
 
 CalculatorViewController *openCalculator(TourGuide &guide)
 {
@@ -49,8 +50,9 @@ void startDialog(TourGuide &guide)
         screen->startDietIntro();
 }
 
-/// As if the calculator had started the diet three days ago, and as if it had been kept since.
-void startDiet(TourGuide &guide)
+/// As if the calculator had started the diet three days ago, and as if it had been kept since. The lengths are those of
+/// the first phases.
+void startDiet(TourGuide &guide, int attack, int cruise)
 {
     UserDefaults &defaults = guide.platform().userDefaults();
     const Calendar &calendar = guide.platform().calendar();
@@ -58,15 +60,15 @@ void startDiet(TourGuide &guide)
     const QDate first = today.addDays(-daysSinceStart);
     const QDateTime start = calendar.startOfDay(first);
     defaults.setValue(start, Keys::kStartDietDateKey);
-    defaults.setInteger(attackDays, Keys::kPeriod1Key);
-    defaults.setInteger(60, Keys::kPeriod2Key);
+    defaults.setInteger(attack, Keys::kPeriod1Key);
+    defaults.setInteger(cruise, Keys::kPeriod2Key);
     defaults.setInteger(80, Keys::kPeriod3Key);
     defaults.setFloat(64, Keys::kIdealWidth);
     CoreDataManager &manager = CoreDataManager::sharedManager();
     manager.setStartDietDay(start);
 
     ManagedObjectContext &context = *manager.managedObjectContext();
-    for (int i = 0; i < attackDays + 60; ++i) {
+    for (int i = 0; i < attackDays + cruiseDays; ++i) {
         DietDay &day = DietDay::dietDatWithDate(calendar.startOfDay(first.addDays(i)), context);
         const bool pureProtein = i < attackDays || (i - attackDays) / attackDays % 2 == 0;
         day.setChB(pureProtein ? std::optional(true) : std::nullopt);
@@ -96,9 +98,9 @@ void startDiet(TourGuide &guide)
     (void)context.save();
 }
 
-CalendarViewController *openCalendar(TourGuide &guide)
+CalendarViewController *openCalendar(TourGuide &guide, int attack = attackDays, int cruise = cruiseDays)
 {
-    startDiet(guide);
+    startDiet(guide, attack, cruise);
     guide.openRow(RootViewConrollerViewController::calendarRow);
     guide.settle();
     return guide.screenOf<CalendarViewController>();
@@ -182,7 +184,7 @@ void catalogueForADay(TourGuide &guide)
         screen->selectRow(DietDayDetailViewController::AddSection, DietDayDetailViewController::AddDishRow);
 }
 
-void dayOfStabilization(TourGuide &guide) { (void)openDay(guide, attackDays + 60 + 80 + 10); }
+void dayOfStabilization(TourGuide &guide) { (void)openDay(guide, attackDays + cruiseDays + 80 + 10); }
 
 } // namespace
 
@@ -215,6 +217,7 @@ QList<TourStop> calendarTourStops()
         {QStringLiteral("calendar-attack"), [](TourGuide &guide) { (void)openCalendar(guide); }},
         {QStringLiteral("calendar-measures"), calendarOfSecondDay},
         {QStringLiteral("calendar-cruise"), calendarAfterMonths(1)},
+        {QStringLiteral("calendar-consolidation"), [](TourGuide &guide) { (void)openCalendar(guide, 1, 2); }},
         {QStringLiteral("calendar-stabilization"), calendarAfterMonths(6)},
         {QStringLiteral("day-attack"), dayOfAttack},
         {QStringLiteral("day-wheels"), dayWithWheels},

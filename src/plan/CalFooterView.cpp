@@ -4,6 +4,10 @@
 #include "platform/StringTables.h"
 #include "store/CoreDataManager.h"
 
+#include <QLocale>
+
+#include <limits>
+
 namespace kesto
 {
 
@@ -12,7 +16,19 @@ namespace
 
 constexpr std::array fieldTitles{u"Вес", u"Грудь", u"Талия", u"Бедра"};
 constexpr int weightTag = 0;
-constexpr int shownDigits = 6; // all that a person types; a weight from pounds has more
+
+/// Six digits below a thousand, all that a person types there, while a weight from pounds has more; above, what it
+/// takes to tell the number from its neighbours. Never with an exponent.
+QString textOf(float value)
+{
+    constexpr int fewestDigits = 6;
+    constexpr int mostDigits = std::numeric_limits<float>::max_digits10;
+    const auto rounded = [&](int digits) { return QString::number(value, 'g', digits).toDouble(); };
+    int digits = fewestDigits;
+    while (value >= 1000 && digits < mostDigits && static_cast<float>(rounded(digits)) != value)
+        ++digits;
+    return QString::number(rounded(digits), 'f', QLocale::FloatingPointShortest);
+}
 
 } // namespace
 
@@ -95,7 +111,7 @@ void CalFooterView::fillFields(const DietDay *day)
 {
     for (size_t tag = 0; tag < fieldCount; ++tag) {
         const float value = day != nullptr ? day->valueForKey(fieldKeys()[tag]).toFloat() : 0;
-        fields_[tag]->setText(value > 0 ? QString::number(value, 'g', shownDigits) : QString());
+        fields_[tag]->setText(value > 0 ? textOf(value) : QString());
     }
 }
 

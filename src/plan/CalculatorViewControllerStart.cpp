@@ -127,7 +127,7 @@ void CalculatorViewController::makeAttackPeriodForDate(const QDateTime &date, in
         attribute("date") >= date && attribute("date") <= date.addSecs((periodDays - 1) * secondsPerDay);
     QHash<QDateTime, DietDay *> known;
     for (DietDay *day : context.fetch<DietDay>(request)) {
-        if (day->date())
+        if (day->date() && !known.contains(*day->date()))
             known.insert(*day->date(), day);
     }
     for (int i = 0; i < periodDays; ++i) {

@@ -81,7 +81,7 @@ QList<CalendarCell> CalendarMonth::makeCells() const
                         attribute("date") < calendar.startOfDay(first.addDays(shown));
     QHash<QDateTime, const DietDay *> records;
     for (const DietDay *day : CoreDataManager::sharedManager().managedObjectContext()->fetch<DietDay>(request)) {
-        if (day->date())
+        if (day->date() && !records.contains(*day->date())) // of two, the one that DietDay::dayWithoutCreation() finds
             records.insert(*day->date(), day);
     }
 

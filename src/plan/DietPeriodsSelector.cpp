@@ -47,6 +47,8 @@ QVariant DietPeriodsSelector::data(const QModelIndex &index, int role) const
         return CoreDataManager::periodNameForDietPeriod(tag);
     case ImageRole:
         return selected ? stringWithFormat("period_%ld_s.png", tag) : stringWithFormat("period_%ld.png", tag);
+    case PressedImageRole:
+        return stringWithFormat("period_%ld_s.png", tag);
     case ColorRole:
         return CoreDataManager::colorForPeriod(tag).value_or(QColor());
     case SelectedRole:
@@ -60,8 +62,9 @@ QVariant DietPeriodsSelector::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> DietPeriodsSelector::roleNames() const
 {
-    return {{TagRole, "tag"},     {TitleRole, "title"},       {ImageRole, "image"},
-            {ColorRole, "color"}, {SelectedRole, "selected"}, {EnabledRole, "enabled"}};
+    return {
+        {TagRole, "tag"},     {TitleRole, "title"},       {ImageRole, "image"},    {PressedImageRole, "pressedImage"},
+        {ColorRole, "color"}, {SelectedRole, "selected"}, {EnabledRole, "enabled"}};
 }
 
 } // namespace kesto

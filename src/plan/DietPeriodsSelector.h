@@ -18,6 +18,7 @@ public:
         TagRole = Qt::UserRole, ///< tag: the phase
         TitleRole,              ///< title
         ImageRole,              ///< image: of the button as it is now
+        PressedImageRole,       ///< pressedImage: of the button under a finger
         ColorRole,              ///< color: the phase's
         SelectedRole,           ///< selected
         EnabledRole             ///< enabled: whether a touch changes it

@@ -91,6 +91,45 @@ TEST(Calendar, OpensOnTodayAndSelectsFromTheStartOn)
     EXPECT_TRUE(at.program.days().isEmpty()) << "looking creates nothing";
 }
 
+TEST(Calendar, ShowsEveryNumberWithoutAnExponent)
+{
+    Calendar7March at;
+    for (const auto &[typed, shown] :
+         {std::pair("81", "81"), std::pair("81.5", "81.5"), std::pair("72.123456", "72.1235"),
+          std::pair("0,05", "0.05"), std::pair("0.00001", "0.00001"), std::pair("999.9996", "1000"),
+          std::pair("1000.25", "1000.25"), std::pair("123456.5", "123456.5"), std::pair("1234567", "1234567"),
+          std::pair("16777215", "16777215"), std::pair("1e5", "100000"), std::pair("1e20", "100000000000000000000")}) {
+        at.footer().endEditing(0, QString::fromUtf8(typed));
+        EXPECT_EQ(at.fields()[0].toStdString(), shown);
+        const float stored = at.record(7)->weight().value_or(0);
+        at.footer().endEditing(0, at.fields()[0]);
+        EXPECT_EQ(at.record(7)->weight().value_or(0), stored < 1000 ? at.fields()[0].toFloat() : stored)
+            << "typing what is shown changes nothing: " << typed;
+    }
+}
+
+// No program makes two records of one date, but a store may hold them.
+TEST(Calendar, TakesOneOfTwoRecordsOfADateEverywhere)
+{
+    Calendar7March at;
+    for (const auto &[kind, weight] : {std::pair("bO", 80.0F), std::pair("chB", 70.0F)}) {
+        auto &day = at.program.context().insert<DietDay>();
+        day.setDate(at.march(8));
+        day.setWeight(weight);
+        day.setValueForKey(true, QLatin1String(kind));
+        ASSERT_TRUE(at.program.context().save());
+    }
+    at.reopen();
+    at.touch(8);
+    const bool first = at.fields()[0] == QStringLiteral("80");
+    EXPECT_EQ(at.cell(8).kind, first ? QStringLiteral("Б/О") : QStringLiteral("Ч/Б"));
+    at.screen->month()->refreshDate(at.march(8));
+    EXPECT_EQ(at.cell(8).kind, first ? QStringLiteral("Б/О") : QStringLiteral("Ч/Б"));
+    CalculatorViewController().makeAttackPeriodForDate(at.march(8), 1);
+    EXPECT_EQ(at.record(8)->chB(), true) << "the one that is shown";
+    EXPECT_EQ(at.program.days().size(), 2);
+}
+
 TEST(Calendar, TurnsMonthsAndComesBack)
 {
     Calendar7March at;

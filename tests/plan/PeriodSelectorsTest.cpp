@@ -45,6 +45,7 @@ TEST(DietPeriodsSelector, AlwaysHoldsStabilization)
     }
     EXPECT_EQ(selector.index(0).data(DietPeriodsSelector::ImageRole), QStringLiteral("period_0.png"));
     EXPECT_EQ(selector.index(3).data(DietPeriodsSelector::ImageRole), QStringLiteral("period_3_s.png"));
+    EXPECT_EQ(selector.index(0).data(DietPeriodsSelector::PressedImageRole), QStringLiteral("period_0_s.png"));
     EXPECT_EQ(selector.index(3).data(DietPeriodsSelector::TitleRole), QStringLiteral("Стабилизация"));
 }
 

@@ -166,6 +166,35 @@ Item {
             compare(page.contentY, 0);
         }
 
+        function test_todaysPhaseStandsOutFromTodaysColour() {
+            const today = stage.all(grid, item => item.hasOwnProperty("isSelected") && item.isToday)[0];
+            const image = grabImage(scene);
+            const at = today.mapToItem(scene, today.width / 2, 0);
+            const column = [];
+            for (let y = Math.round(today.height * 0.75); y < today.height - 1; ++y)
+                column.push(String(image.pixel(Math.round(at.x), Math.round(at.y) + y)));
+            const line = column.map(color => color === String(today.color));
+            const first = line.indexOf(true);
+            const last = line.lastIndexOf(true);
+            verify(last > first && first > 0, "there is a line");
+            for (const around of [first - 1, last + 1])
+                compare(column[around], String(Tokens.colors.surface));
+        }
+
+        function test_theTitleStaysInItsLine() {
+            while (screen.month.title !== "November 2024")
+                screen.nextMonth();
+            const label = stage.all(grid, item => item.hasOwnProperty("lineCount") && item.text === screen.month.title)[0];
+            compare(label.font.pixelSize, Tokens.textTitle);
+            for (const width of [390, 320, 300, 290]) {
+                stage.width = width;
+                wait(10);
+                compare(label.lineCount, 1, "in " + width);
+                verify(label.font.pixelSize >= Tokens.textSmall);
+            }
+            stage.width = 390;
+        }
+
         function test_theDayOpensByEveryKey_data() {
             return [{ key: Qt.Key_Return }, { key: Qt.Key_Enter }, { key: Qt.Key_Space }];
         }

@@ -56,6 +56,16 @@ Item {
             height: Tokens.phaseHeight
             radius: height / 2
             color: day.color
+
+            // Today's colour is near to that of a phase.
+            Rectangle {
+                z: -1
+                anchors.fill: parent
+                anchors.margins: -1
+                visible: day.isToday && day.color.a > 0
+                radius: parent.radius + 1
+                color: Tokens.colors.surface
+            }
         }
     }
     MouseArea {

@@ -30,6 +30,13 @@ FocusScope {
         radius: Tokens.radius
         color: Tokens.colors.surface
     }
+    TextMetrics {
+        id: titleMetrics
+
+        font.family: Tokens.family
+        font.pixelSize: Tokens.textTitle
+        text: grid.month.title
+    }
     Column {
         id: column
 
@@ -52,7 +59,8 @@ FocusScope {
                 anchors.horizontalCenter: parent.horizontalCenter
                 width: Math.min(implicitWidth, parent.width - 2 * Tokens.rowHeight)
                 text: grid.month.title
-                textSize: Tokens.textTitle
+                // In one line, unless that takes a text too small for a title.
+                textSize: Math.max(Tokens.textSmall, Math.floor(Tokens.textTitle * Math.min(1, (parent.width - 2 * (Tokens.rowHeight + Tokens.wide)) / (titleMetrics.advanceWidth + 2))))
                 onClicked: grid.todayRequested()
             }
             IconButton {

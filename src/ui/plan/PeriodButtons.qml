@@ -16,6 +16,7 @@ Row {
             required property int tag
             required property string title
             required property string image
+            required property string pressedImage
             required property color color
             required property bool selected
             required enabled
@@ -38,13 +39,14 @@ Row {
 
                 Icon {
                     anchors.horizontalCenter: parent.horizontalCenter
-                    name: button.image
+                    name: button.down ? button.pressedImage : button.image
                     color: button.selected ? button.color : Tokens.colors.textDisabled
                 }
                 Label {
                     width: parent.width
                     text: button.title
                     font.pixelSize: Math.round(10 * Tokens.textScale)
+                    font.weight: Font.Light
                     horizontalAlignment: Text.AlignHCenter
                     color: button.selected ? Tokens.colors.text : Tokens.colors.textQuiet
                 }

@@ -14,9 +14,18 @@ Item {
     readonly property alias label: label
     readonly property real beforeText: icon.visible ? icon.width + (label.visible ? spacing : 0) : 0
 
-    implicitWidth: beforeText + (label.visible ? Math.ceil(label.implicitWidth) : 0)
+    // Not the label's implicit width, which may change with its width.
+    readonly property real textWidth: Math.ceil(metrics.advanceWidth) + 1
+
+    implicitWidth: beforeText + (label.visible ? textWidth : 0)
     implicitHeight: Math.max(icon.visible ? icon.height : 0, label.visible ? label.height : 0)
 
+    TextMetrics {
+        id: metrics
+
+        font: label.font
+        text: content.text
+    }
     Row {
         anchors.centerIn: parent
         spacing: content.spacing
@@ -33,7 +42,7 @@ Item {
             id: label
 
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.max(0, Math.min(Math.ceil(implicitWidth), content.width - content.beforeText))
+            width: Math.max(0, Math.min(content.textWidth, content.width - content.beforeText))
             visible: text.length > 0
             text: content.text
             color: content.ink
