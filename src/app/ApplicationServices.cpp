@@ -92,6 +92,12 @@ std::unique_ptr<ApplicationServices> ApplicationServices::open(const Options &op
     return services;
 }
 
+bool ApplicationServices::canKeepData(const QString &folder)
+{
+    const QFileInfo documents(folder + QStringLiteral("/Documents"));
+    return QFileInfo(folder).isWritable() && documents.isDir() && documents.isWritable();
+}
+
 QString ApplicationServices::defaultDataFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);

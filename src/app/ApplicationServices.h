@@ -40,6 +40,8 @@ public:
     [[nodiscard]] Platform &platform() { return *platform_; }
     [[nodiscard]] LocalNotificationCenter &notifications() { return *notifications_; }
 
+    /// Whether a folder that was to be opened is one that can be written.
+    [[nodiscard]] static bool canKeepData(const QString &folder);
     /// The platform's folder for the data of this program.
     [[nodiscard]] static QString defaultDataFolder();
     /// Where the resources lie, seen from the program's own file.

@@ -28,14 +28,26 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     const QCommandLineOption tour(QStringLiteral("tour"), {}, QStringLiteral("folder"));
     const QCommandLineOption tourPart(QStringLiteral("tour-part"), {}, QStringLiteral("part"));
 
+    // The parser would take the next option for the value.
+    const QList<QCommandLineOption> valued{dataDir, language, device, tour, tourPart};
+    for (int i = 0; i + 1 < arguments.size(); ++i) {
+        for (const QCommandLineOption &option : valued) {
+            const QString &name = option.names().constFirst();
+            if (arguments[i] == QStringLiteral("--") + name && arguments[i + 1].startsWith(QLatin1Char('-')))
+                return refused(QStringLiteral("The option --%1 needs a value, but %2 follows. A value that begins with "
+                                              "a dash is written --%1=<value>.")
+                                   .arg(name, arguments[i + 1]));
+        }
+    }
+
     QCommandLineParser parser;
-    parser.addOptions({help, version, dataDir, language, device, tour, tourPart});
+    parser.addOptions(valued + QList<QCommandLineOption>{help, version});
     if (!parser.parse(QStringList(QStringLiteral("kesto")) + arguments))
         return refused(parser.errorText());
     if (!parser.positionalArguments().isEmpty())
         return refused(QStringLiteral("What is \"%1\"? The program takes options only.")
                            .arg(parser.positionalArguments().constFirst()));
-    for (const QCommandLineOption &option : {dataDir, language, device, tour, tourPart}) {
+    for (const QCommandLineOption &option : valued) {
         if (parser.isSet(option) && parser.value(option).isEmpty())
             return refused(QStringLiteral("The option --%1 needs a value.").arg(option.names().constFirst()));
     }
@@ -83,7 +95,10 @@ QString CommandLine::help()
         "  --language <ru|en>            The language of the interface.\n"
         "  --device <phone|tablet>       The arrangement of the screens; by the size of the screen otherwise.\n"
         "  --tour <folder>               Save a picture of each main screen, on an empty data folder, and end.\n"
-        "                                With --language or --device only those; needs no display.\n");
+        "                                With --language or --device only those; needs no display.\n"
+        "\n"
+        "The program ends with 0, with 1 when it fails, and with 2 when it can't do with its options: one that it\n"
+        "does not know, or a folder that can't be used.\n");
 }
 
 } // namespace kesto

@@ -14,6 +14,8 @@ enum class Device { Phone, Tablet };
 struct CommandLine
 {
     enum class Action { Run, ShowHelp, ShowVersion, Tour, Refuse };
+    /// What the program ends with when it can't do with what it was given.
+    static constexpr int wrongArguments = 2;
 
     Action action = Action::Run;
     QString error;                ///< why the arguments are refused, for the user

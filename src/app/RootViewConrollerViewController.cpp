@@ -112,14 +112,14 @@ void RootViewConrollerViewController::openRow(int row)
     if (chosen.opens == Opens::OnMenuStack) {
         if (chosen.titled)
             screen->setTitle(titleOf(chosen));
+        rowOnStack_ = row;
         navigationController()->pushViewController(std::move(screen), true);
         return;
     }
     if (enclosing<SplitViewController>() != nullptr)
         screen = ScreenFactory::inTabletContainer(chosen.screen, std::move(screen));
     screen->setTitle(titleOf(chosen));
-    selectRowOfTablet(row);
-    openDetailViewController(std::move(screen));
+    openInDetail(std::move(screen), row);
 }
 
 // On a tablet the menu stays in sight beside what was chosen in it.
@@ -128,15 +128,21 @@ void RootViewConrollerViewController::selectRowOfTablet(int row)
     if (enclosing<SplitViewController>() == nullptr)
         return;
     const int before = std::exchange(selectedRow_, row);
-    if (!isViewLoaded())
-        return;
-    if (before >= 0)
-        reloadRow({0, before});
-    reloadRow({0, row});
+    for (const int each : {before, row}) {
+        if (each >= 0 && isViewLoaded())
+            reloadRow({0, each});
+    }
 }
 
+// It comes from a screen that a row opened on the menu's stack, which may be gone again.
 void RootViewConrollerViewController::openDetailViewController(std::unique_ptr<ViewController> controller)
 {
+    openInDetail(std::move(controller), rowOnStack_);
+}
+
+void RootViewConrollerViewController::openInDetail(std::unique_ptr<ViewController> controller, int row)
+{
+    selectRowOfTablet(row);
     ViewController &screen = *controller;
     if (auto *split = enclosing<SplitViewController>(); split != nullptr) {
         if (split->isMasterHidden())

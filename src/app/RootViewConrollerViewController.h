@@ -39,9 +39,11 @@ protected:
 private:
     void openFirstSection();
     void selectRowOfTablet(int row);
+    void openInDetail(std::unique_ptr<ViewController> controller, int row);
     void presentScreen(ScreenName name);
 
     int selectedRow_ = -1;
+    int rowOnStack_ = -1; // the last that was opened there
     bool loaded_ = false; // has appeared once
 };
 

@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTextStream>
@@ -39,10 +40,10 @@ QString nameOf(const Part &part, const QString &language)
     return QString::fromUtf16(part.name) + QLatin1Char('-') + language;
 }
 
-int fail(const QString &reason)
+int fail(const QString &reason, int result = 1)
 {
     QTextStream(stderr) << "kesto: " << reason << Qt::endl;
-    return 1;
+    return result;
 }
 
 /// All at once: they wait for the screens to settle more than they work.
@@ -101,7 +102,9 @@ int runTour(const CommandLine &line)
 {
     const QString folder = QDir(line.tourFolder).absolutePath();
     if (!QDir().mkpath(folder))
-        return fail(QStringLiteral("The folder %1 can't be made.").arg(folder));
+        return fail(QStringLiteral("The folder %1 can't be made.").arg(folder), CommandLine::wrongArguments);
+    if (!QFileInfo(folder).isWritable())
+        return fail(QStringLiteral("The folder %1 can't be written.").arg(folder), CommandLine::wrongArguments);
     QStringList names;
     for (const Part &part : parts) {
         for (const QString &language : languages()) {

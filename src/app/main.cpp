@@ -13,8 +13,6 @@ namespace
 
 using kesto::CommandLine;
 
-constexpr int wrongArguments = 2;
-
 // Before there is an application: Qt ends the process without a usable word when it finds no display.
 bool hasDisplay()
 {
@@ -50,7 +48,9 @@ int run(const CommandLine &line)
         &error);
     if (program == nullptr) {
         QTextStream(stderr) << "kesto: " << error << Qt::endl;
-        return 1;
+        const bool wrongFolder =
+            !line.dataFolder.isEmpty() && !kesto::ApplicationServices::canKeepData(line.dataFolder);
+        return wrongFolder ? CommandLine::wrongArguments : 1;
     }
     return QGuiApplication::exec();
 }
@@ -70,7 +70,7 @@ int main(int argc, char **argv)
     switch (line.action) {
     case CommandLine::Action::Refuse:
         QTextStream(stderr) << "kesto: " << line.error << "\nSee kesto --help." << Qt::endl;
-        return wrongArguments;
+        return CommandLine::wrongArguments;
     case CommandLine::Action::ShowHelp:
         QTextStream(stdout) << CommandLine::help();
         return 0;

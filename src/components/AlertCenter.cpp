@@ -3,6 +3,7 @@
 #include "platform/Platform.h"
 #include "platform/StringTables.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace kesto
@@ -80,10 +81,16 @@ void AlertCenter::show(Alert alert)
         showNext();
 }
 
+bool AlertCenter::isPointless(const Entry &entry)
+{
+    return entry.hasContext && !entry.context && entry.alert.buttons.size() > 1;
+}
+
 void AlertCenter::showNext()
 {
     shown_ = std::move(waiting_.front());
     waiting_.pop_front();
+    shown_.alert.context = shown_.context; // it may have gone while the alert waited
     current_ = std::make_unique<ShownAlert>(shown_.alert);
     connect(current_.get(), &ShownAlert::answered, this, &AlertCenter::finish);
     Q_EMIT currentChanged();
@@ -92,6 +99,7 @@ void AlertCenter::showNext()
 void AlertCenter::finish(int buttonIndex)
 {
     const Entry shown = std::exchange(shown_, {});
+    waiting_.erase(std::remove_if(waiting_.begin(), waiting_.end(), &AlertCenter::isPointless), waiting_.end());
     ShownAlert *alert = current_.release();
     alert->deleteLater(); // it is the one that calls
     const Alert::Button &button = shown.alert.buttons.at(buttonIndex);

@@ -81,8 +81,8 @@ public:
     explicit AlertCenter(Platform &platform);
     ~AlertCenter() override;
 
-    /// Shown at once, or when those before it are answered. The answer comes when the alert is gone already, so what it
-    /// shows comes after those that wait.
+    /// Shown at once, or when those before it are answered; a question whose context went meanwhile is not asked. The
+    /// answer comes when the alert is gone already, so what it shows comes after those that wait.
     void show(Alert alert);
     /// Null when nothing is shown.
     [[nodiscard]] ShownAlert *current() const { return current_.get(); }
@@ -98,6 +98,8 @@ private:
         bool hasContext = false;
         QPointer<QObject> context;
     };
+    /// A question that nobody is there any more to hear the answer of.
+    [[nodiscard]] static bool isPointless(const Entry &entry);
     void showNext();
     void finish(int buttonIndex);
 

@@ -45,6 +45,8 @@ public:
     /// The hidden master over the detail.
     [[nodiscard]] bool isMenuPopoverOpen() const { return menuPopoverOpen_; }
     void setMenuPopoverOpen(bool open);
+    /// One step back on the master's side alone. False when there was nothing to leave.
+    Q_INVOKABLE bool goBackInMaster() { return goBackIn(master_); }
 
 Q_SIGNALS:
     void detailChanged();

@@ -32,6 +32,7 @@ TEST(CommandLineTest, UnderstandsItsOptions)
     EXPECT_EQ(run.device, Device::Tablet);
     EXPECT_FALSE(parse("").device.has_value());
     EXPECT_EQ(parse("--device phone").device, Device::Phone);
+    EXPECT_EQ(parse("--data-dir=--odd").dataFolder, QStringLiteral("--odd"));
 
     const CommandLine tour = parse("--tour pictures --tour-part phone-ru");
     EXPECT_EQ(tour.action, Action::Tour);
@@ -49,6 +50,10 @@ TEST(CommandLineTest, RefusesTheRestAndSaysWhy)
                                                              {"--device watch", "watch"},
                                                              {"--data-dir=", "data-dir"},
                                                              {"--tour", "tour"},
+                                                             {"--data-dir --device tablet", "data-dir"},
+                                                             {"--data-dir --version", "data-dir"},
+                                                             {"--tour --language ru", "tour"},
+                                                             {"--language -v", "language"},
                                                              {"today", "today"},
                                                              {"--tour a --data-dir b", "--data-dir"},
                                                              {"--tour-part phone-ru", "--tour-part"},

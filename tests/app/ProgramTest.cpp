@@ -76,6 +76,20 @@ TEST(ProgramTest, WrongArgumentsEndItWithTwo)
     }
 }
 
+TEST(ProgramTest, AFolderThatCannotBeUsedEndsItWithTwo)
+{
+    const QTemporaryDir root;
+    const QString file = root.filePath(QStringLiteral("file"));
+    ASSERT_TRUE(QFile(file).open(QFile::WriteOnly));
+    for (const QString &option : {QStringLiteral("--data-dir"), QStringLiteral("--tour")}) {
+        for (const QString &folder : {file, file + QStringLiteral("/below"), QStringLiteral("/proc/kesto")}) {
+            ProgramRun run({option, folder});
+            EXPECT_EQ(run.exitCode(), 2) << option.toStdString() << " " << folder.toStdString();
+            EXPECT_TRUE(run.errors().contains(folder)) << run.errors().toStdString();
+        }
+    }
+}
+
 TEST(ProgramTest, ASecondStartOnOneFolderIsRefused)
 {
     const QTemporaryDir root;

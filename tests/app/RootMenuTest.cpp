@@ -170,6 +170,20 @@ TEST_F(RootMenuTest, ATabletStartsWithAScreenInTheDetail)
     EXPECT_EQ(selectedRows(), QStringLiteral("8"));
 }
 
+TEST_F(RootMenuTest, WhatTheMenusOwnStackOpensBelongsToItsRow)
+{
+    for (const QSizeF &size : {tabletLandscape, tabletPortrait, phone}) {
+        quit();
+        launch(size);
+        menu().selectRow(0, 3);
+        menu().openDetailViewController(std::make_unique<ViewController>());
+        menu().navigationController()->popToRootViewController(false);
+        EXPECT_EQ(selectedRows(), size == phone ? QString() : QStringLiteral("3"));
+        menu().selectRow(0, 8);
+        EXPECT_EQ(selectedRows(), size == phone ? QString() : QStringLiteral("8"));
+    }
+}
+
 TEST_F(RootMenuTest, InPortraitAButtonOpensTheMenuOfATablet)
 {
     launch(tabletPortrait);

@@ -1,10 +1,21 @@
 #include "app/WindowFixture.h"
+#include "components/AlertCenter.h"
+#include "components/BKPasscodeLockScreenManager.h"
 #include "components/SideMenuContainer.h"
 #include "components/Window.h"
+#include "platform/Platform.h"
+#include "platform/StringTables.h"
+#include "platform/UserDefaults.h"
+#include "store/Keys.h"
 
+#include <QFontMetricsF>
+#include <QJSValue>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QRegularExpression>
 #include <QSignalSpy>
+
+#include <algorithm>
 
 namespace kesto::test
 {
@@ -23,7 +34,7 @@ void PrintTo(const Size &size, std::ostream *stream)
     *stream << size.window.width() << " " << size.language.toStdString();
 }
 
-/// Every text at twice its size, on windows so high that no list has a row out of sight.
+/// Every text at twice its size.
 class TextSizeTest : public WindowFixture, public testing::WithParamInterface<Size>
 {
 protected:
@@ -37,6 +48,8 @@ protected:
     {
         prepare(daysOfDiet);
         start(Device::Phone, GetParam().window, GetParam().language);
+        program_->view().setMinimumSize({});
+        program_->view().resize(GetParam().window);
         program_->userInterface().appearance().setMotion(false);
         program_->userInterface().appearance().setTextScale(2);
         settle();
@@ -53,16 +66,29 @@ protected:
     {
         return dynamic_cast<SideMenuContainer &>(*program_->window().rootViewController());
     }
-    /// Complains of every text that can't be read whole, and of every two that overlap.
+    /// What draws a screen.
+    static QQuickItem *viewOf(const ViewController &controller, QQuickItem &root)
+    {
+        if (root.property("controller").value<ViewController *>() == &controller)
+            return &root;
+        for (QQuickItem *child : root.childItems()) {
+            if (QQuickItem *found = viewOf(controller, *child))
+                return found;
+        }
+        return nullptr;
+    }
+
     void expectReadable(const ViewController &controller)
     {
-        QQuickItem *view = item(*program_->view().contentItem(), [&controller](const QQuickItem &each) {
-            return each.property("controller").value<ViewController *>() == &controller;
-        });
+        expectReadable(viewOf(controller, *program_->view().contentItem()), 8);
+    }
+    /// Complains of every text that can't be read whole, of words that are broken, and of every two that overlap.
+    void expectReadable(QQuickItem *view, int least)
+    {
         ASSERT_NE(view, nullptr);
         texts_.clear();
         look(*view);
-        EXPECT_GT(texts_.size(), 8) << "nothing was looked at";
+        EXPECT_GT(texts_.size(), least) << "nothing was looked at";
         for (qsizetype i = 0; i < texts_.size(); ++i) {
             for (qsizetype k = i + 1; k < texts_.size(); ++k) {
                 const QRectF both = texts_[i].place.intersected(texts_[k].place);
@@ -93,15 +119,39 @@ private:
         EXPECT_FALSE(item.property("truncated").toBool()) << words << " is cut";
         EXPECT_LE(painted.width(), item.width() + 1) << words << " is too wide";
         EXPECT_LE(painted.height(), item.height() + 1) << words << " is too high";
-        texts_.append({text, item.mapRectToScene(QRectF(0, 0, painted.width(), item.height()))});
+        expectNoBrokenWord(item, text);
+        QRectF seen = item.mapRectToScene(QRectF(0, 0, painted.width(), item.height()));
+        bool scrolled = false;
         for (QQuickItem *around = item.parentItem(); around != nullptr; around = around->parentItem()) {
+            const bool scrolls = around->inherits("QQuickFlickable");
+            if (scrolls)
+                seen &= around->mapRectToScene(QRectF(0, 0, around->width(), around->height()));
+            scrolled =
+                scrolled || scrolls || (around->parentItem() && around->parentItem()->inherits("QQuickFlickable"));
             if (around->width() <= 0 || around->height() <= 0)
                 continue;
             const QRectF place = item.mapRectToItem(around, QRectF(0, 0, item.width(), item.height()));
-            EXPECT_TRUE(place.left() >= -1 && place.right() <= around->width() + 1 && place.top() >= -1 &&
-                        place.bottom() <= around->height() + 1)
-                << words << " sticks out of " << around->metaObject()->className();
+            EXPECT_TRUE(place.left() >= -1 && place.right() <= around->width() + 1) << words << where(*around);
+            EXPECT_TRUE(scrolled || (place.top() >= -1 && place.bottom() <= around->height() + 1))
+                << words << where(*around);
         }
+        if (!seen.isEmpty())
+            texts_.append({text, seen});
+    }
+    static std::string where(const QQuickItem &around)
+    {
+        return std::string(" sticks out of ") + around.metaObject()->className();
+    }
+
+    static void expectNoBrokenWord(const QQuickItem &item, const QString &text)
+    {
+        QFont font = item.property("font").value<QFont>();
+        font.setPixelSize(item.property("fontInfo").value<QJSValue>().property(QStringLiteral("pixelSize")).toInt());
+        static const QRegularExpression between(QStringLiteral("[\\s/—–-]+"));
+        const QStringList words = text.split(between, Qt::SkipEmptyParts);
+        for (const QString &word : words)
+            EXPECT_LE(QFontMetricsF(font).horizontalAdvance(word), item.width() + 1)
+                << word.toStdString() << " is broken";
     }
 };
 
@@ -120,6 +170,53 @@ TEST_P(TextSizeTest, TheCalendar)
     expectReadable(*container().centerViewController());
 }
 
+/// The smallest windows: no word of what asks is lost, nor is one of its buttons.
+class SmallWindowTest : public TextSizeTest
+{
+};
+
+TEST_P(SmallWindowTest, AQuestionForADay)
+{
+    ASSERT_NO_FATAL_FAILURE(open(std::nullopt));
+    const QString begin = localized(QStringLiteral("Начать"));
+    const QString cancel = localized(QStringLiteral("Отменить"));
+    AlertCenter::sharedCenter().show({.title = localized(QStringLiteral("Начать диету с")),
+                                      .buttons = {{cancel, Alert::Role::Cancel}, {begin}},
+                                      .dateField = Alert::DateField{}});
+    settle();
+    expectReadable(
+        item(*program_->view().contentItem(),
+             [](const QQuickItem &each) {
+                 return QLatin1String(each.metaObject()->className()).startsWith(QLatin1String("AlertDialog"));
+             }),
+        6);
+    const QDate today = Platform::current().calendar().dayOf(QDateTime::currentDateTimeUtc());
+    for (const QString &text : {begin, cancel, QString::number(today.day()), QString::number(today.year())}) {
+        EXPECT_TRUE(std::any_of(texts_.begin(), texts_.end(),
+                                [&](const Text &each) { return each.text == text && each.place.height() > 24; }))
+            << text.toStdString() << " is out of sight";
+    }
+}
+
+TEST_P(SmallWindowTest, TheLock)
+{
+    ASSERT_NO_FATAL_FAILURE(open(std::nullopt));
+    Platform::current().userDefaults().setValue(QStringLiteral("1234"), Keys::kPasscodeKey);
+    BKPasscodeLockScreenManager::sharedManager().showLockScreen(false);
+    settle();
+    expectReadable(*program_->window().lockScreen());
+    for (const Qt::Key key : {Qt::Key_9, Qt::Key_9, Qt::Key_9, Qt::Key_9})
+        person().presses(key);
+    settle();
+    expectReadable(*program_->window().lockScreen());
+}
+
+INSTANTIATE_TEST_SUITE_P(Phones, SmallWindowTest,
+                         testing::Values(Size{QSize(320, 480), QStringLiteral("ru")},
+                                         Size{QSize(320, 480), QStringLiteral("en")},
+                                         Size{QSize(844, 390), QStringLiteral("ru")}));
+
+// So high that no list has a row out of sight.
 INSTANTIATE_TEST_SUITE_P(Phones, TextSizeTest,
                          testing::Values(Size{QSize(390, 3200), QStringLiteral("ru")},
                                          Size{QSize(390, 3200), QStringLiteral("en")},

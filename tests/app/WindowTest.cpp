@@ -3,6 +3,7 @@
 #include "components/SideMenuContainer.h"
 #include "components/TableViewController.h"
 #include "model/Dish.h"
+#include "platform/LocalNotifications.h"
 #include "platform/Platform.h"
 #include "platform/UserDefaults.h"
 #include "platform/objectgraph/ManagedObjectContext.h"
@@ -11,6 +12,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
+#include <QQmlContext>
+#include <QQmlProperty>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QSignalSpy>
@@ -123,6 +127,47 @@ TEST_F(WindowTest, FirstStartToTheMenuAndBackByKeys)
     user.presses(Qt::Key_Escape);
     EXPECT_TRUE(user.waitsUntilGone(QAccessible::Heading, menuTitle));
     EXPECT_TRUE(user.sees(QAccessible::Heading, cart));
+}
+
+TEST_F(WindowTest, TheKeysUnlockAndAnswerWhatCameMeanwhile)
+{
+    struct Start
+    {
+        Device device;
+        QSize size;
+        bool prepares; ///< the screen that says so is up, too
+    };
+    for (const Start &way :
+         {Start{Device::Phone, QSize(390, 844), false}, Start{Device::Tablet, QSize(1180, 820), false},
+          Start{Device::Phone, QSize(390, 844), true}, Start{Device::Tablet, QSize(820, 1180), true}}) {
+        SCOPED_TRACE(testing::Message() << way.size.width() << (way.prepares ? " preparing" : ""));
+        program_.reset();
+        ASSERT_TRUE(QDir(root_.filePath(QStringLiteral("data"))).removeRecursively());
+        prepare({});
+        {
+            UserDefaults defaults(root_.filePath(QStringLiteral("data/UserDefaults.plist")));
+            defaults.setValue(QStringLiteral("1234"), Keys::kPasscodeKey);
+            if (way.prepares)
+                defaults.setValue(QStringLiteral("0.9"), Keys::kAppVersionKey);
+            ASSERT_TRUE(defaults.synchronize());
+        }
+        start(way.device, way.size);
+        const Person user = person();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return program_->view().isActive(); }));
+        LocalNotification reminder;
+        reminder.alertBody = QStringLiteral("Пора обедать");
+        program_->delegate().application(reminder);
+        for (const Qt::Key key : {Qt::Key_1, Qt::Key_2, Qt::Key_3, Qt::Key_4})
+            user.presses(key);
+        ASSERT_EQ(program_->window().lockScreen(), nullptr) << user.view();
+        ASSERT_TRUE(user.waitsToSee(QAccessible::AlertMessage, reminder.alertBody)) << user.view();
+        user.presses(Qt::Key_Return);
+        EXPECT_TRUE(user.waitsUntilGone(QAccessible::AlertMessage, reminder.alertBody));
+        ASSERT_TRUE(user.waitsUntilGone(QAccessible::Indicator, preparing));
+        ASSERT_TRUE(QTest::qWaitFor([&] { return program_->window().presentedViewControllers().isEmpty(); }));
+        user.presses(Qt::Key_Down);
+        EXPECT_FALSE(user.focus().isEmpty()) << "they are in the screen behind";
+    }
 }
 
 TEST_F(WindowTest, ATabletShowsTheMenuBesideItsScreens)

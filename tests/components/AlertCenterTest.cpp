@@ -81,10 +81,17 @@ TEST_F(AlertCenterTest, AnAnswerForSomebodyGoneIsDropped)
     auto asker = std::make_unique<QObject>();
     center().show(question(QStringLiteral("shown"), asker.get()));
     center().show(question(QStringLiteral("waiting"), asker.get()));
+    showAlert({}, QStringLiteral("a message"), asker.get(), {});
     center().show(question(QStringLiteral("of nobody")));
+    center().show(question(QStringLiteral("the last"), asker.get()));
     asker.reset();
-    for (int alert = 0; alert < 3; ++alert)
-        center().current()->answer(1);
+    center().current()->answer(1);
+    ASSERT_NE(center().current(), nullptr);
+    EXPECT_EQ(center().current()->message(), QStringLiteral("a message")) << "the question before it is of no use";
+    EXPECT_EQ(center().current()->context(), nullptr);
+    center().current()->answer(0);
+    center().current()->answer(1);
+    EXPECT_EQ(center().current(), nullptr);
     EXPECT_EQ(answers, QStringList{QStringLiteral("of nobody:Начать")});
 }
 

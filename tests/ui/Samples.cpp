@@ -58,6 +58,7 @@ SplitViewController *Samples::openSplit()
         std::make_unique<SplitViewController>(std::make_unique<NavigationController>(std::make_unique<SampleList>()),
                                               std::make_unique<NavigationController>(std::make_unique<SampleTable>()));
     SplitViewController *made = split.get();
+    stack_ = qobject_cast<NavigationController *>(split->detail());
     appWindow()->setRootViewController(std::move(split));
     return made;
 }
@@ -108,11 +109,23 @@ SampleTable *Samples::push()
     return made;
 }
 
+NavigationController *Samples::pushInMenu()
+{
+    ViewController *root = appWindow()->rootViewController();
+    auto *side = qobject_cast<SideMenuContainer *>(root);
+    auto *stack = qobject_cast<NavigationController *>(side ? side->leftMenuViewController()
+                                                            : qobject_cast<SplitViewController *>(root)->master());
+    stack->pushViewController(std::make_unique<SampleTable>(), false);
+    return stack;
+}
+
 SampleTable *Samples::present()
 {
     auto table = std::make_unique<SampleTable>();
     SampleTable *made = table.get();
-    stack_->presentViewController(std::make_unique<NavigationController>(std::move(table)), true);
+    const QList<ViewController *> presented = appWindow()->presentedViewControllers();
+    ViewController *top = presented.isEmpty() ? stack_ : presented.last();
+    top->presentViewController(std::make_unique<NavigationController>(std::move(table)), true);
     return made;
 }
 
@@ -129,7 +142,7 @@ BKPasscodeViewController *Samples::lock()
     return made;
 }
 
-void Samples::unlock() { appWindow()->setLockScreen(nullptr, false); }
+void Samples::unlock(bool animated) { appWindow()->setLockScreen(nullptr, animated); }
 
 void Samples::work(bool busy)
 {

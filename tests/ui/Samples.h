@@ -50,10 +50,12 @@ public:
     Q_INVOKABLE kesto::NavigationController *stack() const { return stack_; }
     Q_INVOKABLE kesto::SideMenuContainer *menu() const { return menu_; }
     Q_INVOKABLE kesto::test::SampleTable *push();
+    /// On the menu's own stack.
+    Q_INVOKABLE kesto::NavigationController *pushInMenu();
     Q_INVOKABLE kesto::test::SampleTable *present();
     Q_INVOKABLE void openPopover();
     Q_INVOKABLE kesto::BKPasscodeViewController *lock();
-    Q_INVOKABLE void unlock();
+    Q_INVOKABLE void unlock(bool animated = false);
     Q_INVOKABLE void work(bool busy);
     Q_INVOKABLE void clear();
 

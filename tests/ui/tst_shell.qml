@@ -48,6 +48,139 @@ Item {
             return stage.all(stage, item => item.objectName === "list");
         }
 
+        function openTablet(landscape) {
+            stage.width = landscape ? 840 : 620;
+            stage.height = landscape ? 620 : 840;
+            const split = Samples.openSplit();
+            stage.forceActiveFocus();
+            wait(20);
+            return split;
+        }
+        function itemOf(controller) {
+            return stage.all(stage, item => item.hasOwnProperty("panelWidth") === false && item.hasOwnProperty("controller") && item.controller === controller)[0];
+        }
+
+        function test_theKeysStayWithWhatIsInFront_data() {
+            const search = () => keyClick(Qt.Key_F, Qt.ControlModifier);
+            const turn = () => {
+                stage.width = 840;
+                stage.height = 620;
+            };
+            const phone = () => Samples.openList();
+            const tablet = () => openTablet(false).menuPopoverOpen = true;
+            return [
+                { tag: "search under the lock", open: phone, cover: () => Samples.lock(), then: search },
+                { tag: "search under an alert", open: phone, cover: () => Samples.ask(), then: search },
+                { tag: "search under a bubble", open: phone, cover: () => Samples.openPopover(), then: search },
+                { tag: "a tablet turned under the lock", open: tablet, cover: () => Samples.lock(), then: turn },
+                { tag: "a tablet turned under an alert", open: tablet, cover: () => Samples.ask(), then: turn },
+                { tag: "a screen that comes under an alert", open: phone, cover: () => Samples.ask(), then: () => Samples.present() },
+                { tag: "a screen that comes under the lock", open: phone, cover: () => Samples.lock(), then: () => Samples.present() },
+            ];
+        }
+        function test_theKeysStayWithWhatIsInFront(data) {
+            data.open();
+            stage.forceActiveFocus();
+            data.cover();
+            wait(20);
+            const before = stage.Window.activeFocusItem;
+            data.then();
+            wait(20);
+            compare(stage.Window.activeFocusItem, before);
+        }
+
+        function test_searchIsOfTheMenuWhileItIsOpen() {
+            Samples.openList();
+            stage.forceActiveFocus();
+            Samples.menu().menuOpen = true;
+            wait(20);
+            keyClick(Qt.Key_F, Qt.ControlModifier);
+            verify(stage.Window.activeFocusItem.placeholderText !== undefined);
+            verify(focusInside(itemOf(Samples.menu().leftMenuViewController)));
+        }
+
+        function test_theKeysComeBackFromWhatGoes_data() {
+            return [
+                { tag: "the upper of two presented screens", open: () => {
+                    const below = Samples.present();
+                    wait(20);
+                    Samples.present();
+                    wait(20);
+                    keyClick(Qt.Key_Escape);
+                    return below;
+                } },
+                { tag: "the menu of a tablet that is turned", open: () => {
+                    const split = openTablet(true);
+                    keyClick(Qt.Key_M, Qt.ControlModifier);
+                    stage.width = 620;
+                    stage.height = 840;
+                    return split.detail;
+                } },
+                { tag: "the lock, while it fades", open: () => {
+                    Appearance.motion = true;
+                    const lock = Samples.lock();
+                    wait(20);
+                    const pad = itemOf(lock);
+                    Samples.unlock(true);
+                    verify(pad.visible && pad.parent !== null, "it is not gone at once");
+                    return table;
+                } },
+            ];
+        }
+        function test_theKeysComeBackFromWhatGoes(data) {
+            const below = data.open();
+            wait(50);
+            verify(focusInside(itemOf(below)));
+            keyClick(Qt.Key_Down);
+            verify(focusInside(itemOf(below)));
+            tryVerify(() => !stage.all(stage, item => item.objectName === "" && item.hasOwnProperty("keySize")).length);
+        }
+
+        function test_EscapeGoesBackWhereTheKeysAre_data() {
+            return [
+                { tag: "the menu of a phone", open: () => Samples.menu().menuOpen = true, isOpen: () => Samples.menu().menuOpen },
+                { tag: "of a tablet", open: () => openTablet(false).menuPopoverOpen = true,
+                    isOpen: () => Samples.appWindow.rootViewController.menuPopoverOpen },
+                { tag: "of a tablet, docked", open: () => {
+                    openTablet(true);
+                    Samples.push();
+                    keyClick(Qt.Key_M, Qt.ControlModifier);
+                }, isOpen: () => Samples.stack().viewControllers.length === 2 },
+            ];
+        }
+        function test_EscapeGoesBackWhereTheKeysAre(data) {
+            data.open();
+            const menu = Samples.pushInMenu();
+            wait(20);
+            keyClick(Qt.Key_Escape);
+            compare(menu.viewControllers.length, 1);
+            verify(data.isOpen());
+            keyClick(Qt.Key_Escape);
+            verify(!data.isOpen());
+        }
+
+        function test_twoQuickTouchesOpenOneThing() {
+            Appearance.motion = true;
+            const pushed = Samples.push();
+            mouseClick(stage, 200, 110);
+            wait(60);
+            mouseClick(stage, 200, 110);
+            compare(table.heard.concat(pushed.heard), []);
+            tryVerify(() => {
+                mouseClick(stage, 200, 110);
+                return pushed.heard.length > 0;
+            });
+        }
+
+        function test_theBarsOfAList() {
+            Samples.openList();
+            wait(50);
+            const bar = Qt.color(Tokens.colors.bar);
+            verify(Qt.colorEqual(grabImage(stage).pixel(3, Tokens.barHeight + 20), bar), "the search field stands in a bar");
+            const scopes = stage.all(stage, item => item.hasOwnProperty("titles") && item.hasOwnProperty("current"))[0];
+            compare(scopes.height, Tokens.barHeight);
+        }
+
         function test_EscapeGoesBackUpTheStack() {
             Samples.push();
             Samples.push();
@@ -207,13 +340,16 @@ Item {
         }
 
         function test_progressHoldsTheKeys() {
+            const pushed = Samples.push();
             Samples.work(true);
             keyClick(Qt.Key_Return);
+            keyClick(Qt.Key_Escape);
             mouseClick(stage, 200, 110);
-            compare(table.heard, []);
+            compare(pushed.heard, []);
+            compare(Samples.stack().viewControllers.length, 2);
             Samples.work(false);
             mouseClick(stage, 200, 110);
-            compare(table.heard.length, 1);
+            compare(pushed.heard.length, 1);
         }
 
         function test_searchNarrowsAndEscapeEndsIt() {

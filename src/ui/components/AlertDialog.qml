@@ -26,6 +26,10 @@ FocusScope {
     }
     readonly property bool sideBySide: buttonTitles.length === 2 && buttons.widest <= (card.width - 3 * Tokens.unit) / 2
 
+    readonly property real room: parent ? parent.height - 2 * Tokens.wide : 10000
+    /*! Fewer rows of a wheel where there is little room. */
+    readonly property bool low: room < 10 * Tokens.wheelRowHeight
+
     signal answered(int button)
     signal cancelled
     signal edited(string text)
@@ -52,19 +56,35 @@ FocusScope {
         id: card
 
         width: parent.width
-        height: Math.min(column.height + 2 * Tokens.unit, dialog.parent ? dialog.parent.height - 2 * Tokens.wide : 10000)
+        height: Math.min(column.height + buttons.height + 3 * Tokens.unit, dialog.room)
         radius: Tokens.radius
         color: Tokens.colors.surfaceRaised
 
         Flickable {
             id: scroll
 
-            anchors.fill: parent
-            anchors.margins: Tokens.unit
+            x: Tokens.unit
+            y: Tokens.unit
+            width: parent.width - 2 * x
+            height: parent.height - buttons.height - 3 * Tokens.unit
             contentHeight: column.height
             clip: contentHeight > height
             interactive: contentHeight > height
             boundsBehavior: Flickable.StopAtBounds
+
+            /*! What has the keys can be seen. */
+            function reveal(): void {
+                if (field.activeFocus)
+                    centre(field);
+                else if (wheels.activeFocus)
+                    centre(wheels);
+            }
+            function centre(item: Item): void {
+                contentY = Math.max(0, Math.min(contentHeight - height, item.y + item.height / 2 - height / 2));
+            }
+
+            onHeightChanged: reveal()
+            onContentHeightChanged: reveal()
 
             Column {
                 id: column
@@ -105,6 +125,7 @@ FocusScope {
                     inputMethodHints: dialog.keyboard === Keyboard.Decimal ? Qt.ImhFormattedNumbersOnly
                         : dialog.keyboard === Keyboard.Number ? Qt.ImhDigitsOnly
                         : dialog.keyboard === Keyboard.Email ? Qt.ImhEmailCharactersOnly : Qt.ImhNone
+                    onActiveFocusChanged: scroll.reveal()
                     onTextEdited: {
                         dialog.text = text;
                         dialog.edited(text);
@@ -119,54 +140,58 @@ FocusScope {
                     width: parent.width
                     active: dialog.picker !== null
                     visible: active
+                    onActiveFocusChanged: scroll.reveal()
                     sourceComponent: WheelPicker {
                         focus: true
                         picker: dialog.picker
+                        visibleRows: dialog.low ? 3 : 5
                         name: dialog.title
                         Keys.onReturnPressed: event => dialog.enter(event)
                         Keys.onEnterPressed: event => dialog.enter(event)
                     }
                 }
-                GridLayout {
-                    id: buttons
+            }
+        }
+        GridLayout {
+            id: buttons
 
-                    readonly property real widest: {
-                        let width = 0;
-                        for (let i = 0; i < repeater.count; ++i)
-                            width = Math.max(width, (repeater.itemAt(i) as Button)?.implicitWidth ?? 0);
-                        return width;
-                    }
+            readonly property real widest: {
+                let width = 0;
+                for (let i = 0; i < repeater.count; ++i)
+                    width = Math.max(width, (repeater.itemAt(i) as Button)?.implicitWidth ?? 0);
+                return width;
+            }
 
-                    function preferredButton(): Item {
-                        return repeater.itemAt(Math.max(0, dialog.preferred));
-                    }
+            function preferredButton(): Item {
+                return repeater.itemAt(Math.max(0, dialog.preferred));
+            }
 
-                    width: parent.width
-                    columns: dialog.sideBySide ? 2 : 1
-                    columnSpacing: Tokens.unit
-                    rowSpacing: Tokens.half
+            x: Tokens.unit
+            y: parent.height - height - Tokens.unit
+            width: parent.width - 2 * x
+            columns: dialog.sideBySide ? 2 : 1
+            columnSpacing: Tokens.unit
+            rowSpacing: Tokens.half
 
-                    Repeater {
-                        id: repeater
+            Repeater {
+                id: repeater
 
-                        model: dialog.buttonTitles
+                model: dialog.buttonTitles
 
-                        Button {
-                            required property string modelData
-                            required property int index
+                Button {
+                    required property string modelData
+                    required property int index
 
-                            Layout.fillWidth: true
-                            Layout.preferredWidth: 1
-                            text: modelData
-                            primary: index === dialog.preferred && index !== dialog.cancelButtonIndex
-                            destructive: index === dialog.destructiveButtonIndex
-                            onClicked: dialog.answered(index)
-                            Keys.onUpPressed: passFocus(false)
-                            Keys.onLeftPressed: passFocus(false)
-                            Keys.onDownPressed: passFocus(true)
-                            Keys.onRightPressed: passFocus(true)
-                        }
-                    }
+                    Layout.fillWidth: true
+                    Layout.preferredWidth: 1
+                    text: modelData
+                    primary: index === dialog.preferred && index !== dialog.cancelButtonIndex
+                    destructive: index === dialog.destructiveButtonIndex
+                    onClicked: dialog.answered(index)
+                    Keys.onUpPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+                    Keys.onLeftPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+                    Keys.onDownPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+                    Keys.onRightPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
                 }
             }
         }

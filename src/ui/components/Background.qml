@@ -13,8 +13,8 @@ Rectangle {
         anchors.fill: parent
         visible: Tokens.colors.pattern
         source: "image://kesto/" + encodeURIComponent(background.picture)
-        sourceSize.width: 144
-        sourceSize.height: 144
+        sourceSize.width: Tokens.patternSize
+        sourceSize.height: Tokens.patternSize
         fillMode: Image.Tile
         Accessible.ignored: true
     }

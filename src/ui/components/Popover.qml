@@ -7,7 +7,7 @@ FocusScope {
 
     property Item anchor: null
     property size sizeHint: Qt.size(0, 0)
-    property real naturalHeight: 420
+    property real naturalHeight: Tokens.popoverHeight
     readonly property real cardWidth: Math.min(sizeHint.width > 0 ? sizeHint.width : Tokens.popoverWidth, width - 2 * Tokens.unit)
     readonly property real cardHeight: Math.min(sizeHint.height > 0 ? sizeHint.height : naturalHeight, height - 2 * Tokens.huge)
     readonly property rect target: {

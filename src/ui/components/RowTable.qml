@@ -209,8 +209,8 @@ TableBase {
         visible: root.target !== null
         x: root.inset
         width: root.width - 2 * x
-        height: 3
-        radius: 1.5
+        height: Tokens.dropLineHeight
+        radius: height / 2
         color: Tokens.colors.accent
         y: {
             const to = root.target;

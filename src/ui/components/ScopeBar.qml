@@ -11,7 +11,7 @@ Rectangle {
 
     signal chosen(int index)
 
-    implicitHeight: Math.max(Tokens.rowHeight, row.height) + Tokens.unit
+    implicitHeight: Math.max(Tokens.barHeight, row.height)
     color: Tokens.colors.bar
     Accessible.role: Accessible.PageTabList
     Accessible.name: name

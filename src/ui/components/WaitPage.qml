@@ -15,8 +15,8 @@ Rectangle {
     Image {
         anchors.fill: parent
         source: "image://kesto/" + page.picture
-        sourceSize.width: 144
-        sourceSize.height: 144
+        sourceSize.width: Tokens.patternSize
+        sourceSize.height: Tokens.patternSize
         fillMode: Image.Tile
         Accessible.ignored: true
     }

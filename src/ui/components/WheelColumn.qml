@@ -15,9 +15,9 @@ Item {
 
     signal chosen(int row)
 
-    readonly property int rowHeight: Math.max(36, Math.round(Tokens.textTitle * 1.7))
-    readonly property int visibleRows: 5
-    readonly property real naturalWidth: Math.min(widest(), 260) + 2 * Tokens.gap
+    readonly property int rowHeight: Tokens.wheelRowHeight
+    property int visibleRows: 5
+    readonly property real naturalWidth: Math.min(widest(), Tokens.wheelWidth) + 2 * Tokens.gap
     readonly property alias moving: view.moving
 
     function widest(): real {

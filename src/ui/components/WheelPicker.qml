@@ -7,6 +7,15 @@ FocusScope {
 
     required property Picker picker
     property string name
+    property int visibleRows: 5
+    /*! What the columns would take, and by how much each gives way for all to fit. */
+    readonly property real natural: {
+        let sum = 0;
+        for (let i = 0; i < repeater.count; ++i)
+            sum += (repeater.itemAt(i) as WheelColumn)?.naturalWidth ?? 0;
+        return sum;
+    }
+    readonly property real share: Math.min(1, (width - (repeater.count - 1) * row.spacing) / Math.max(1, natural))
 
     implicitWidth: row.width
     implicitHeight: row.height
@@ -16,7 +25,7 @@ FocusScope {
     Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         width: parent.width
-        height: Math.max(36, Math.round(Tokens.textTitle * 1.7))
+        height: Tokens.wheelRowHeight
         radius: Tokens.smallRadius
         color: Tokens.colors.field
     }
@@ -52,7 +61,8 @@ FocusScope {
                 required property PickerComponent modelData
                 required property int index
 
-                width: Math.min(naturalWidth, (wheels.width - (repeater.count - 1) * row.spacing) / Math.max(1, repeater.count) * (repeater.count === 3 ? 1.4 : 1))
+                width: naturalWidth * wheels.share
+                visibleRows: wheels.visibleRows
                 focus: index === 0
                 name: wheels.name
                 titles: modelData ? modelData.titles : []

@@ -36,6 +36,7 @@ FocusScope {
         if (alert.style === Alert.ActionSheet) {
             content.anchor = appWindow.isTablet ? Anchors.find(root, alert.anchor, alert.context) : null;
             shown = sheet.createObject(over, content);
+            arriving.restart();
             return;
         }
         content.hasTextField = alert.hasTextField;
@@ -48,6 +49,8 @@ FocusScope {
 
     visible: alert !== null
     onAlertChanged: show()
+    // It came while the program was locked.
+    onEnabledChanged: if (shown && enabled) shown.forceActiveFocus(Qt.OtherFocusReason)
     Component.onCompleted: show()
 
     Rectangle {
@@ -57,8 +60,14 @@ FocusScope {
     MouseArea {
         anchors.fill: parent
         hoverEnabled: true
-        onClicked: if (over.alert && over.alert.style === Alert.ActionSheet) over.alert.cancel()
+        onClicked: if (over.alert && over.alert.style === Alert.ActionSheet && !arriving.running) over.alert.cancel()
         onWheel: {}
+    }
+    // The second touch of two quick ones was not meant for what is beside the sheet.
+    Timer {
+        id: arriving
+
+        interval: Tokens.arrival
     }
     Component {
         id: dialog

@@ -27,22 +27,34 @@ FocusScope {
         else if (split)
             (root.page.item as SplitView).swapKeys();
     }
+    readonly property Item front: locked ? lock : asked ? alerts : popped ? popovers : presenting ? presented : root
+    readonly property Item keysAt: Window.activeFocusItem
+
     /*! The keys go to what is in front; each part remembers which of its items had them. */
     function giveKeys(): void {
-        const front = locked ? lock : asked ? alerts : popped ? popovers : presenting ? presented : root;
         front.forceActiveFocus(Qt.OtherFocusReason);
     }
 
     onWidthChanged: appWindow.size = Qt.size(width, height)
     onHeightChanged: appWindow.size = Qt.size(width, height)
-    onAskedChanged: giveKeys()
-    onPoppedChanged: giveKeys()
-    onPresentingChanged: giveKeys()
-    onLockedChanged: giveKeys()
+    onFrontChanged: giveKeys()
+    // What is behind may have taken them for itself: a menu that opens when a tablet is turned, a screen that is presented.
+    onKeysAtChanged: taken.restart()
+    Component.onCompleted: giveKeys()
 
-    Keys.onEscapePressed: event => event.accepted = !asked && !locked && appWindow.back()
-    Keys.onBackPressed: event => event.accepted = !asked && !locked && appWindow.back()
+    Keys.onEscapePressed: event => event.accepted = behind.enabled && appWindow.back()
+    Keys.onBackPressed: event => event.accepted = behind.enabled && appWindow.back()
 
+    // Not while they are being given.
+    Timer {
+        id: taken
+
+        interval: 0
+        onTriggered: {
+            if (shell.activeFocus && !shell.front.activeFocus)
+                shell.giveKeys();
+        }
+    }
     Background {
         anchors.fill: parent
         picture: shell.appWindow.backgroundImage.length > 0 ? shell.appWindow.backgroundImage : Styllesheet.backgroundImage
@@ -105,12 +117,12 @@ FocusScope {
         id: lock
 
         anchors.fill: parent
-        visible: shell.locked
+        fades: true
         controller: shell.appWindow.lockScreen
-        onPageChanged: if (page) page.forceActiveFocus(Qt.OtherFocusReason)
 
         MouseArea {
             anchors.fill: parent
+            visible: shell.locked
             z: -1
             onWheel: {}
         }

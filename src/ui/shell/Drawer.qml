@@ -3,7 +3,7 @@ import Kesto
 
 /*!
     A side panel and the main content. Docked, both stand side by side; otherwise the panel comes in from the left over the
-    content: by \a open, or a finger from the left edge; it goes by a touch beside it, a finger to the left, or Escape.
+    content: by \a open, or a finger from the left edge; it goes by a touch beside it, or a finger to the left.
 
     At the start what is in front comes with the window's first frame, and what is behind it with the next.
 */
@@ -17,6 +17,7 @@ FocusScope {
     property ViewController mainController: null
     property string panelName
     readonly property real shownWidth: docked ? panelWidth : panelWidth + panel.x
+    readonly property alias keysInPanel: panel.activeFocus
 
     signal openRequested(bool open)
 
@@ -24,6 +25,11 @@ FocusScope {
         panel.x = docked || open ? 0 : -panelWidth;
     }
 
+    /*! Where they go within the drawer; whether the drawer has them at all is not its affair. */
+    function giveKeys(): void {
+        if (!docked)
+            (open ? panel : main).focus = true;
+    }
     /*! The keys go to the panel, or back from it. */
     function swapKeys(): void {
         const next = panel.activeFocus ? main : panel;
@@ -32,14 +38,12 @@ FocusScope {
 
     onOpenChanged: {
         settle();
-        if (docked)
-            return;
-        if (open)
-            panel.forceActiveFocus(Qt.OtherFocusReason);
-        else
-            main.forceActiveFocus(Qt.OtherFocusReason);
+        giveKeys();
     }
-    onDockedChanged: settle()
+    onDockedChanged: {
+        settle();
+        giveKeys();
+    }
     onPanelWidthChanged: settle()
 
     Swap {
@@ -77,11 +81,6 @@ FocusScope {
         controller: FirstFrame.over || FirstFrame.begun && (drawer.docked || drawer.open) ? drawer.panelController : null
         Accessible.role: Accessible.Pane
         Accessible.name: drawer.panelName
-        Keys.onEscapePressed: event => {
-            event.accepted = !drawer.docked;
-            if (event.accepted)
-                drawer.openRequested(false);
-        }
 
         Behavior on x {
             enabled: FirstFrame.over && !drag.active && !edge.active && !drawer.docked

@@ -50,13 +50,10 @@ FocusScope {
             clear();
             return;
         }
-        const focused = !before || before.activeFocus;
         if (shown) {
             shown.visible = true;
             shown.x = 0;
             shown.focus = true;
-            if (focused && view.visible)
-                shown.forceActiveFocus(Qt.OtherFocusReason);
         }
         if (before && shown && controller.isTransitionAnimated() && Tokens.slow > 0) {
             // What is on top while both move: the new one when it comes, the old one when it leaves.
@@ -91,6 +88,14 @@ FocusScope {
         anchors.bottom: tools.top
         width: parent.width
         clip: slide.running
+
+        // The second touch of two quick ones is for neither screen.
+        MouseArea {
+            anchors.fill: parent
+            z: 2
+            visible: slide.running
+            onWheel: {}
+        }
     }
     NavigationBar {
         id: bar

@@ -27,6 +27,8 @@ FocusScope {
             page.come(each.isTransitionAnimated());
         }
         pages = kept;
+        if (kept.length > 0)
+            kept[kept.length - 1].focus = true;
     }
 
     Component {
@@ -38,8 +40,6 @@ FocusScope {
             property bool gone: false
 
             function come(animated: bool): void {
-                focus = true;
-                forceActiveFocus(Qt.OtherFocusReason);
                 slide.from = over.height;
                 slide.to = 0;
                 start(animated);

@@ -8,6 +8,21 @@ FocusScope {
     required property SearchBarDietTableViewController controller
 
     Background { anchors.fill: parent }
+    Rectangle {
+        id: bar
+
+        width: parent.width
+        height: search.visible ? search.height + 2 * Tokens.unit : 0
+        color: Tokens.colors.bar
+
+        Rectangle {
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: Tokens.hairline
+            visible: search.visible
+            color: Tokens.colors.barLine
+        }
+    }
     SearchField {
         id: search
 
@@ -23,7 +38,7 @@ FocusScope {
     RowTable {
         id: table
 
-        anchors.top: search.bottom
+        anchors.top: bar.bottom
         anchors.bottom: scopes.top
         width: parent.width
         clip: true
@@ -45,7 +60,7 @@ FocusScope {
     }
     Shortcut {
         sequence: "Ctrl+F"
-        enabled: view.controller.isVisible && view.controller.hasSearchBar
+        enabled: view.enabled && view.controller.isVisible && view.controller.hasSearchBar
         onActivated: search.forceActiveFocus(Qt.ShortcutFocusReason)
     }
 }

@@ -14,4 +14,7 @@ Drawer {
     mainController: controller.detail
     panelController: controller.master
     onOpenRequested: open => controller.menuPopoverOpen = open
+    // Beside each other, the side that has the keys goes back first.
+    Keys.onEscapePressed: event => event.accepted = docked && keysInPanel && controller.goBackInMaster()
+    Keys.onBackPressed: event => event.accepted = docked && keysInPanel && controller.goBackInMaster()
 }

@@ -7,6 +7,8 @@ FocusScope {
 
     property ViewController controller: null
     property ControllerView page: null
+    /*! The last screen fades away, if it is to go animated. */
+    property bool fades: false
 
     function show(): void {
         const before = page;
@@ -17,10 +19,15 @@ FocusScope {
             if (focused)
                 page.forceActiveFocus(Qt.OtherFocusReason);
         }
-        if (before) {
-            before.visible = false;
-            before.destroy();
+        if (!before)
+            return;
+        before.enabled = false;
+        if (fades && !page && before.controller.isTransitionAnimated() && Tokens.slow > 0) {
+            fade.createObject(before, { target: before });
+            return;
         }
+        before.visible = false;
+        before.destroy();
     }
 
     onControllerChanged: show()
@@ -29,5 +36,16 @@ FocusScope {
         id: pageComponent
 
         ControllerView { anchors.fill: parent }
+    }
+    Component {
+        id: fade
+
+        OpacityAnimator {
+            running: true
+            from: 1
+            to: 0
+            duration: Tokens.slow
+            onFinished: target.destroy()
+        }
     }
 }

@@ -43,7 +43,19 @@ QtObject {
     readonly property int menuWidth: 288
     readonly property int masterWidth: 320
     readonly property int popoverWidth: 360
+    readonly property int popoverHeight: 420
     readonly property int dialogWidth: 300
+    /*! Of a tile of the pattern behind everything. */
+    readonly property int patternSize: 144
+    /*! What tells where a row goes that is carried. */
+    readonly property int dropLineHeight: 3
+    /*! The widest wheel, and one of its rows. */
+    readonly property int wheelWidth: 260
+    readonly property int wheelRowHeight: Math.max(36, Math.round(textTitle * 1.7))
+    // A pad of round keys
+    readonly property int largestKey: 76
+    readonly property int smallestKey: 44
+    readonly property int shakeWidth: 12
 
     // Pictures grow with the text, but less
     readonly property real pictureScale: 1 + (textScale - 1) * 0.5
@@ -59,6 +71,10 @@ QtObject {
         font.family: tokens.family
         font.pixelSize: tokens.textBody
     }
+    readonly property int smallestText: 10
+    /*! How labels come to terms with words that are wider than they; text of the usual size hardly has such. */
+    readonly property int wrapMode: textScale > 1 ? Text.WordWrap : Text.Wrap
+    readonly property int fitMode: textScale > 1 ? Text.Fit : Text.FixedSize
     readonly property string family: Styllesheet.fontFamily
     readonly property int textCaption: Math.round(12 * textScale)
     // The largest in bars, which have little room
@@ -76,6 +92,13 @@ QtObject {
     readonly property int quick: Appearance.motion ? 120 : 0
     readonly property int normal: Appearance.motion ? 200 : 0
     readonly property int slow: Appearance.motion ? 240 : 0
+    /*! One way of what is shaken, which is not shaken when motion is off. */
+    readonly property int shake: 40
+    /*! What came after a touch takes none for so long. */
+    readonly property int arrival: 300
+    /*! One turn of what turns while the program works; it stands still when motion is off. */
+    readonly property int turn: 1200
+
     /*! The colours of a category of dishes (0 to 8), or of none. */
     function shadeOf(category: int): color {
         return colors.shades[category >= 0 && category < 9 ? category : 9];
@@ -83,7 +106,4 @@ QtObject {
     function inkOf(category: int): color {
         return colors.inks[category >= 0 && category < 9 ? category : 9];
     }
-
-    /*! One turn of what turns while the program works; it stands still when motion is off. */
-    readonly property int turn: 1200
 }
