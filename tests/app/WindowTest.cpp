@@ -159,8 +159,8 @@ TEST_F(WindowTest, TheKeysUnlockAndAnswerWhatCameMeanwhile)
         program_->delegate().application(reminder);
         for (const Qt::Key key : {Qt::Key_1, Qt::Key_2, Qt::Key_3, Qt::Key_4})
             user.presses(key);
-        ASSERT_EQ(program_->window().lockScreen(), nullptr) << user.view();
-        ASSERT_TRUE(user.waitsToSee(QAccessible::AlertMessage, reminder.alertBody)) << user.view();
+        ASSERT_EQ(program_->window().lockScreen(), nullptr);
+        ASSERT_TRUE(user.waitsToSee(QAccessible::AlertMessage, reminder.alertBody));
         user.presses(Qt::Key_Return);
         EXPECT_TRUE(user.waitsUntilGone(QAccessible::AlertMessage, reminder.alertBody));
         ASSERT_TRUE(user.waitsUntilGone(QAccessible::Indicator, preparing));
