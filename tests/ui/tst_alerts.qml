@@ -57,7 +57,7 @@ Item {
         }
 
         function wheel(index) {
-            return stage.all(stage, item => item.hasOwnProperty("visibleRows"))[index];
+            return stage.all(stage, item => item.hasOwnProperty("rowHeight"))[index];
         }
         /*! What somebody reads in the middle of a wheel. */
         function shown(wheel) {

@@ -40,6 +40,7 @@ FocusScope {
     readonly property color quiet: available ? Tokens.colors.textQuiet : Tokens.colors.textDisabled
 
     readonly property bool endTouchable: accessory === TableRow.CheckButton || accessory === TableRow.InfoButton
+    readonly property Component endComponent: accessory === TableRow.None ? null : endTouchable ? touchable : sign
     readonly property bool hasMore: subtitle.length > 0 || badges.length > 0
 
     // Most rows are without most of these: each is made when there is something for it to show.
@@ -52,11 +53,11 @@ FocusScope {
     // From the picture to the end, the title at the left and the trailing things at the right; the latter below if need be.
     readonly property real contentX: Tokens.margin + (icon.visible ? icon.width + Tokens.gap : 0)
     readonly property real contentWidth: (end ? end.x - (endTouchable ? 0 : Tokens.unit) : width - Tokens.margin) - contentX
-    readonly property real detailWidth: detailLabel ? detailLabel.implicitWidth : 0
+    // A label's own width without a break depends on how it is broken.
+    readonly property real detailWidth: detail.length > 0 ? Math.ceil(Tokens.bodyMetrics.advanceWidth(detail)) : 0
     readonly property real trailingWidth: slot.width + (detailLabel ? detailWidth + (slot.width > 0 ? Tokens.unit : 0) : 0)
     readonly property real trailingHeight: detailLabel ? Math.max(detailLabel.height, slot.height) : slot.height
     readonly property real room: trailingWidth > 0 ? contentWidth - trailingWidth - Tokens.gap : contentWidth
-    // The label's own width without a break depends on how it is broken.
     readonly property bool stacked: trailingWidth > 0 && Tokens.bodyMetrics.advanceWidth(title) > room
     readonly property real textsHeight: (titleLabel.visible ? titleLabel.height : 0) + (more ? more.height + (titleLabel.visible ? more.spacing : 0) : 0)
     readonly property real contentHeight: stacked ? textsHeight + Tokens.half + trailingHeight : Math.max(textsHeight, trailingHeight)
@@ -78,8 +79,10 @@ FocusScope {
         return component.createObject(row) as Item;
     }
 
-    onEndTouchableChanged: end = part(end, false, sign)
-    onAccessoryChanged: end = part(end, accessory !== TableRow.None, endTouchable ? touchable : sign)
+    onEndComponentChanged: {
+        end = part(end, false, null);
+        end = part(end, endComponent !== null, endComponent);
+    }
     onDetailChanged: detailLabel = part(detailLabel, detail.length > 0, details) as Label
     onHasMoreChanged: more = part(more, hasMore, below) as Column
     onFramedChanged: pictureFrame = part(pictureFrame, framed, frame)
@@ -150,7 +153,7 @@ FocusScope {
         Label {
             x: row.contentX + row.contentWidth - width - (slot.width > 0 ? slot.width + Tokens.unit : 0)
             y: row.trailingY - height / 2
-            width: Math.min(implicitWidth, row.contentWidth)
+            width: Math.min(row.detailWidth, row.contentWidth)
             text: row.detail
             color: row.quiet
             font.strikeout: row.struckThrough
