@@ -51,6 +51,8 @@ class LineItem : public QQuickItem
     Q_PROPERTY(QVariantList badges READ badges NOTIFY changed FINAL)
     Q_PROPERTY(QString cell READ cell NOTIFY changed FINAL)
     Q_PROPERTY(QVariant value READ value NOTIFY changed FINAL)
+    /// The value where it is a list, empty otherwise.
+    Q_PROPERTY(QVariantList values READ values NOTIFY changed FINAL)
     /// A Picker or null.
     Q_PROPERTY(QObject *picker READ picker NOTIFY changed FINAL)
 
@@ -91,6 +93,7 @@ public:
     [[nodiscard]] QVariantList badges() const { return TableModel::badgesOf(line_.shown); }
     [[nodiscard]] QString cell() const { return line_.shown.cell; }
     [[nodiscard]] QVariant value() const { return line_.shown.value; }
+    [[nodiscard]] QVariantList values() const { return line_.shown.value.toList(); }
     [[nodiscard]] QObject *picker() const { return line_.shown.picker; }
 
 Q_SIGNALS:

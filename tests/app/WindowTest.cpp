@@ -71,6 +71,23 @@ TEST_F(WindowTest, FirstFrameShowsWhatIsInFrontAndTheNextTheRest)
     }
 }
 
+TEST_F(WindowTest, TheStartShowsItsPhases)
+{
+    prepare({});
+    start(Device::Phone, QSize(390, 844));
+    const auto drawn = [&] {
+        QStringList names;
+        (void)item(*program_->view().contentItem(), [&](const QQuickItem &each) {
+            if (each.property("modelData").toMap().contains(QStringLiteral("dates")) && each.width() > 0)
+                names.append(each.property("modelData").toMap().value(QStringLiteral("name")).toString());
+            return false;
+        });
+        return names;
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return drawn().size() == 4; })) << "two phases, each in the bar and below it";
+    EXPECT_EQ(drawn().value(0), QStringLiteral("Атака"));
+}
+
 TEST_F(WindowTest, FirstStartToTheMenuAndBackByPointer)
 {
     start(Device::Phone, QSize(390, 844));

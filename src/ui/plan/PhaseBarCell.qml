@@ -9,7 +9,7 @@ Item {
     id: cell
 
     required property TableLine line
-    readonly property var spans: line.value ?? []
+    readonly property var spans: line.values
     readonly property real weights: spans.reduce((sum, span) => sum + weightOf(span), 0)
 
     function weightOf(span: var): real {
