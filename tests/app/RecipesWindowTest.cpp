@@ -91,7 +91,7 @@ TEST_F(RecipesWindowTest, BrowsesTheGridByKeys)
     EXPECT_TRUE(user.waitsToSee(QAccessible::ListItem, nameOf(opened)));
 
     // The phases, by touch.
-    ASSERT_TRUE(user.touches(QAccessible::Button, QStringLiteral("Атака")));
+    ASSERT_TRUE(user.touches(QAccessible::PageTab, QStringLiteral("Атака")));
     same.updateToPeriod(1);
     ASSERT_GT(tiles.size(), 0);
     EXPECT_TRUE(user.waitsToSee(QAccessible::ListItem, nameOf(tiles[0])));

@@ -66,21 +66,13 @@ protected:
     {
         return dynamic_cast<SideMenuContainer &>(*program_->window().rootViewController());
     }
-    /// What draws a screen.
-    static QQuickItem *viewOf(const ViewController &controller, QQuickItem &root)
-    {
-        if (root.property("controller").value<ViewController *>() == &controller)
-            return &root;
-        for (QQuickItem *child : root.childItems()) {
-            if (QQuickItem *found = viewOf(controller, *child))
-                return found;
-        }
-        return nullptr;
-    }
-
     void expectReadable(const ViewController &controller)
     {
-        expectReadable(viewOf(controller, *program_->view().contentItem()), 8);
+        expectReadable(item(*program_->view().contentItem(),
+                            [&controller](const QQuickItem &each) {
+                                return each.property("controller").value<ViewController *>() == &controller;
+                            }),
+                       8);
     }
     /// Complains of every text that can't be read whole, of words that are broken, and of every two that overlap.
     void expectReadable(QQuickItem *view, int least)

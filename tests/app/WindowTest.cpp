@@ -13,8 +13,6 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QQmlContext>
-#include <QQmlProperty>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QSignalSpy>

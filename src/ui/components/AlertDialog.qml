@@ -188,10 +188,10 @@ FocusScope {
                     primary: index === dialog.preferred && index !== dialog.cancelButtonIndex
                     destructive: index === dialog.destructiveButtonIndex
                     onClicked: dialog.answered(index)
-                    Keys.onUpPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
-                    Keys.onLeftPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
-                    Keys.onDownPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
-                    Keys.onRightPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+                    Keys.onUpPressed: passFocus(false)
+                    Keys.onLeftPressed: passFocus(false)
+                    Keys.onDownPressed: passFocus(true)
+                    Keys.onRightPressed: passFocus(true)
                 }
             }
         }
