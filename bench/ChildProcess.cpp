@@ -4,6 +4,8 @@
 
 #include <QFile>
 #include <QProcessEnvironment>
+#include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QThread>
 
 namespace kesto::bench
@@ -15,15 +17,50 @@ namespace
 constexpr int kPatience = 30'000;
 constexpr unsigned long kSettling = 400;
 
+/// The folder of the children's own copies of the libraries of Qt that are mapped here.
+QString librariesOfChildren()
+{
+    static const QTemporaryDir folder;
+    static const bool copied = [] {
+        QFile maps(QStringLiteral("/proc/self/maps"));
+        if (!maps.open(QIODevice::ReadOnly))
+            fail(maps.errorString());
+        static const QRegularExpression library(QStringLiteral("(/\\S*/(libQt6\\w+\\.so\\.\\d+)[\\d.]*)\\n"));
+        QStringList done;
+        for (auto found = library.globalMatch(QString::fromLocal8Bit(maps.readAll())); found.hasNext();) {
+            const QRegularExpressionMatch match = found.next();
+            if (done.contains(match.captured(2)))
+                continue;
+            done.append(match.captured(2));
+            if (!QFile::copy(match.captured(1), folder.filePath(match.captured(2))))
+                fail(QStringLiteral("%1 can't be copied").arg(match.captured(1)));
+        }
+        return true;
+    }();
+    return copied ? folder.path() : QString();
+}
+
 } // namespace
 
-ChildProcess::ChildProcess(QString program, QStringList arguments)
+bool ChildProcess::hasDisplay()
+{
+    static const bool has = !qEnvironmentVariableIsEmpty("DISPLAY");
+    return has;
+}
+
+ChildProcess::ChildProcess(QString program, QStringList arguments, Screen screen)
     : program_(std::move(program))
     , arguments_(std::move(arguments))
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-    environment.insert(QStringLiteral("QT_QUICK_BACKEND"), QStringLiteral("software"));
+    environment.insert(QStringLiteral("LD_LIBRARY_PATH"), librariesOfChildren());
+    if (screen == Screen::Display) {
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+        environment.remove(QStringLiteral("QT_QUICK_BACKEND"));
+    } else {
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        environment.insert(QStringLiteral("QT_QUICK_BACKEND"), QStringLiteral("software"));
+    }
     process_.setProcessEnvironment(environment);
 }
 

@@ -7,14 +7,23 @@
 namespace kesto::bench
 {
 
-/// A measured process without a screen, drawn by the software renderer. A failure of it ends the program.
+/// A measured process. It has Qt's libraries for itself: what this one has mapped of them would count as shared. A
+/// failure of it ends the program.
 class ChildProcess
 {
 public:
-    ChildProcess(QString program, QStringList arguments);
+    enum class Screen {
+        None,   ///< drawn by the software renderer
+        Display ///< drawn as people see it; only where there is one
+    };
+
+    ChildProcess(QString program, QStringList arguments, Screen screen = Screen::None);
     ~ChildProcess();
     ChildProcess(const ChildProcess &) = delete;
     ChildProcess &operator=(const ChildProcess &) = delete;
+
+    /// Whether there is one.
+    [[nodiscard]] static bool hasDisplay();
 
     void start();
     void tell(const QByteArray &line);

@@ -39,19 +39,25 @@ private:
     QList<QByteArray> size_;
 };
 
+constexpr ChildProcess::Screen kNoScreen = ChildProcess::Screen::None;
+constexpr ChildProcess::Screen kDisplay = ChildProcess::Screen::Display;
+
 class EmptyWindow final : public Start
 {
 public:
-    EmptyWindow() { process_.emplace(QStringLiteral(KESTO_BENCH_EMPTY), QStringList()); }
+    explicit EmptyWindow(ChildProcess::Screen screen)
+    {
+        process_.emplace(QStringLiteral(KESTO_BENCH_EMPTY), QStringList(), screen);
+    }
 };
 
 class Menu final : public Start
 {
 public:
-    explicit Menu(const DataOptions &options)
+    Menu(const DataOptions &options, ChildProcess::Screen screen)
         : folder_(options)
     {
-        process_.emplace(kInterface, QStringList{folder_.path(), QStringLiteral("menu")});
+        process_.emplace(kInterface, QStringList{folder_.path(), QStringLiteral("menu")}, screen);
     }
     ~Menu() override { process_.reset(); } // before the folder goes
 
@@ -92,19 +98,36 @@ private:
 
 } // namespace
 
-Workload menuAtStart(Fixtures &)
+namespace
 {
-    return {.name = "start to the first frame: the menu over the calculator, the catalogue imported",
-            .contenders = {contender<Menu>("ours", kNew), contender<EmptyWindow>("an empty window")},
+
+/// Both over the calculator, with the catalogue imported.
+Workload menu(std::string name, const ChildProcess::Screen &screen)
+{
+    return {.name = std::move(name),
+            .contenders = {contender<Menu>("ours", kNew, screen), contender<EmptyWindow>("an empty window", screen)},
             .bars = {{Bar::Kind::TimesContender, 2.2, "an empty window"},
                      {Bar::Kind::MemoryTimesContender, 1.5, "an empty window"}}};
 }
 
+} // namespace
+
+Workload menuOnDisplay(Fixtures &)
+{
+    return menu("start to the first frame on a display: the menu, the catalogue imported", kDisplay);
+}
+
+Workload menuAtStart(Fixtures &)
+{
+    return menu("start to the first frame without a screen: the menu, the catalogue imported", kNoScreen);
+}
+
 Workload menuWithTenYears(Fixtures &)
 {
-    return {.name = "the same over the calendar with 3,650 days and 20,000 time rows",
-            .contenders = {contender<Menu>("ours", kTenYears), contender<Menu>("no days", kStarted)},
-            .bars = {{Bar::Kind::TimesContender, 1.1, "no days"}, {Bar::Kind::MemoryTimesContender, 1.1, "no days"}}};
+    return {
+        .name = "the same over the calendar with 3,650 days and 20,000 time rows",
+        .contenders = {contender<Menu>("ours", kTenYears, kNoScreen), contender<Menu>("no days", kStarted, kNoScreen)},
+        .bars = {{Bar::Kind::TimesContender, 1.1, "no days"}, {Bar::Kind::MemoryTimesContender, 1.1, "no days"}}};
 }
 
 Workload monthChange(Fixtures &)

@@ -1,11 +1,15 @@
 #include "Workloads.h"
 
+#include "ChildProcess.h"
+
+#include <cstdio>
+
 namespace kesto::bench
 {
 
 std::vector<Workload> allWorkloads(Fixtures &fixtures)
 {
-    return {
+    std::vector<Workload> all{
         importOfCatalogue(fixtures),
         fetchOfIngredients(fixtures),
         walkOverDishes(fixtures),
@@ -21,6 +25,11 @@ std::vector<Workload> allWorkloads(Fixtures &fixtures)
         scrollOnPhone(),
         scrollOnTablet(),
     };
+    if (ChildProcess::hasDisplay())
+        all.push_back(menuOnDisplay(fixtures));
+    else
+        std::fputs("kesto_bench: no display, so the start on one is left out\n", stderr);
+    return all;
 }
 
 } // namespace kesto::bench

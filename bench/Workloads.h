@@ -17,6 +17,7 @@ class Fixtures;
 [[nodiscard]] Workload daysWithJournals(Fixtures &fixtures);
 [[nodiscard]] Workload parseOfPropertyList(Fixtures &fixtures);
 [[nodiscard]] Workload firstStart(Fixtures &fixtures);
+[[nodiscard]] Workload menuOnDisplay(Fixtures &fixtures);
 [[nodiscard]] Workload menuAtStart(Fixtures &fixtures);
 [[nodiscard]] Workload menuWithTenYears(Fixtures &fixtures);
 [[nodiscard]] Workload monthChange(Fixtures &fixtures);
