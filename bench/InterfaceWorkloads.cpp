@@ -125,7 +125,7 @@ Workload menuAtStart(Fixtures &)
 Workload menuWithTenYears(Fixtures &)
 {
     return {
-        .name = "the same over the calendar with 3,650 days and 20,000 time rows",
+        .name = "the same over the calendar with 3,650 days and 20,000 time rows, without a screen",
         .contenders = {contender<Menu>("ours", kTenYears, kNoScreen), contender<Menu>("no days", kStarted, kNoScreen)},
         .bars = {{Bar::Kind::TimesContender, 1.1, "no days"}, {Bar::Kind::MemoryTimesContender, 1.1, "no days"}}};
 }
