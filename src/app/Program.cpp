@@ -73,15 +73,17 @@ std::unique_ptr<Program> Program::start(const Options &options, QString *error)
 
 Window &Program::window() { return platform().shared<Window>(); }
 
-// The arrangement stays what it was at the start, however the window is resized later.
+// By the shorter side of the largest window that there is room for. The arrangement stays what it was at the start,
+// however the window is resized later.
 void Program::arrangeWindow(const Options &options)
 {
     const QSize screen = QGuiApplication::primaryScreen()->availableSize();
-    const bool largeScreen = shorterSide(screen) >= shorterSideOfTablet;
-    const Device device = options.device.value_or(largeScreen ? Device::Tablet : Device::Phone);
+    const QSize largest = options.size.isEmpty() ? tabletSize.boundedTo(screen) : options.size;
+    const bool isLarge = shorterSide(largest) >= shorterSideOfTablet;
+    const Device device = options.device.value_or(isLarge ? Device::Tablet : Device::Phone);
     const QSize wanted = device == Device::Tablet ? tabletSize : phoneSize;
     initialSize_ = options.size.isEmpty() ? wanted.boundedTo(screen) : options.size;
-    if (!largeScreen && options.size.isEmpty())
+    if (!isLarge && options.size.isEmpty())
         initialSize_ = screen;
     window().setDevice(device == Device::Tablet ? Window::Device::Tablet : Window::Device::Phone);
     window().setSize(initialSize_);

@@ -29,7 +29,7 @@ public:
         QString dataFolder;
         QString resourcesFolder;      ///< empty: beside the program
         QString language;             ///< empty: see ApplicationServices
-        std::optional<Device> device; ///< nothing: by the size of the screen
+        std::optional<Device> device; ///< nothing: by the window's shorter side
         QSize size;                   ///< of the window; empty: as the screen allows
         Clock *clock = nullptr;       ///< see ApplicationServices
         RandomSource *random = nullptr;

@@ -22,6 +22,16 @@ namespace
 
 const QString folder = QStringLiteral("qrc:/qt/qml/Kesto/");
 
+/// The pictures are small and few, so that a small texture holds those of a screen; Qt makes it of the window's size
+/// otherwise, 8 MB of a tablet's. To be called before there is a window.
+void drawPicturesTogether()
+{
+    for (const char *side : {"QSG_ATLAS_WIDTH", "QSG_ATLAS_HEIGHT"}) {
+        if (!qEnvironmentVariableIsSet(side))
+            qputenv(side, "512");
+    }
+}
+
 } // namespace
 
 UserInterface::UserInterface(Platform &platform)
@@ -29,6 +39,7 @@ UserInterface::UserInterface(Platform &platform)
     , appearance_(nullptr)
     , firstFrame_(nullptr)
 {
+    drawPicturesTogether();
     prepare(engine_, platform);
     giveTo(engine_, appearance_);
     giveTo(engine_, firstFrame_);

@@ -12,7 +12,7 @@
 namespace kesto::test
 {
 
-void WindowFixture::start(Device device, const QSize &size, const QString &language)
+void WindowFixture::start(std::optional<Device> device, const QSize &size, const QString &language)
 {
     program_.reset();
     QString error;

@@ -22,7 +22,7 @@ class WindowFixture : public testing::Test
 {
 protected:
     /// A start of the program; the data stay from one to the next.
-    void start(Device device, const QSize &size, const QString &language = QStringLiteral("ru"));
+    void start(std::optional<Device> device, const QSize &size, const QString &language = QStringLiteral("ru"));
     /// Before the first start: there is nothing to import, and the diet, if any, began so many days ago.
     void prepare(std::optional<int> daysOfDiet);
     void TearDown() override;

@@ -69,6 +69,20 @@ TEST_F(WindowTest, FirstFrameShowsWhatIsInFrontAndTheNextTheRest)
     }
 }
 
+TEST_F(WindowTest, TheShorterSideChoosesTheArrangement)
+{
+    prepare({});
+    for (const auto &[size, device, isTablet] : {std::tuple(QSize(599, 1000), std::optional<Device>(), false),
+                                                 {QSize(1000, 599), {}, false},
+                                                 {QSize(600, 1000), {}, true},
+                                                 {QSize(1000, 600), {}, true},
+                                                 {QSize(1000, 600), Device::Phone, false},
+                                                 {QSize(599, 1000), Device::Tablet, true}}) {
+        start(device, size);
+        EXPECT_EQ(program_->window().isTablet(), isTablet) << size.width() << " x " << size.height();
+    }
+}
+
 TEST_F(WindowTest, TheStartShowsItsPhases)
 {
     prepare({});
