@@ -14,7 +14,7 @@ Pressable {
 
     Rectangle {
         anchors.fill: parent
-        anchors.margins: 3
+        anchors.margins: Tokens.scopeInset
         radius: Tokens.smallRadius
         color: control.chosen ? Tokens.colors.surface : "transparent"
         opacity: control.down ? 0.7 : 1

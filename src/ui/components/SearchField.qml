@@ -12,7 +12,7 @@ FocusScope {
     /*! The search ended; the keys belong to the list again. */
     signal finished
 
-    implicitWidth: 200
+    implicitWidth: Tokens.searchWidth
     implicitHeight: field.implicitHeight
 
     function clear(): void {

@@ -97,7 +97,7 @@ FocusScope {
                 id: marks
 
                 anchors.bottom: parent.bottom
-                height: 10
+                height: Tokens.dot
                 spacing: Tokens.half
 
                 Repeater {
@@ -108,9 +108,9 @@ FocusScope {
                         required property color modelData
 
                         visible: tile.markers & (1 << index)
-                        width: 10
-                        height: 10
-                        radius: 5
+                        width: Tokens.dot
+                        height: Tokens.dot
+                        radius: width / 2
                         color: modelData
                     }
                 }

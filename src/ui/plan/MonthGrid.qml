@@ -151,7 +151,7 @@ FocusScope {
         color: Tokens.colors.text
         labelMargin: Tokens.phaseHeight + Tokens.half
         smileSize: Tokens.tinyIcon - 2
-        smileMargin: 3
+        smileMargin: Tokens.smileInset
         disabledOpacity: Tokens.disabledOpacity
         otherMonthOpacity: Tokens.otherMonthOpacity
     }

@@ -45,7 +45,7 @@ Row {
                 Label {
                     width: parent.width
                     text: button.title
-                    font.pixelSize: Math.round(10 * Tokens.textScale)
+                    font.pixelSize: Tokens.textOfPeriods
                     font.weight: Font.Light
                     horizontalAlignment: Text.AlignHCenter
                     color: button.selected ? Tokens.colors.text : Tokens.colors.textQuiet

@@ -80,13 +80,13 @@ Item {
 
                     Rectangle {
                         y: Tokens.half
-                        width: 10
-                        height: 10
-                        radius: 5
+                        width: Tokens.dot
+                        height: Tokens.dot
+                        radius: width / 2
                         color: entry.modelData.color
                     }
                     Column {
-                        width: parent.width - 10 - Tokens.unit
+                        width: parent.width - Tokens.dot - Tokens.unit
 
                         Label {
                             width: parent.width

@@ -120,9 +120,9 @@ FocusScope {
 
                                 Rectangle {
                                     y: (Tokens.textBody * 1.3 - height) / 2
-                                    width: 6
-                                    height: 6
-                                    radius: 3
+                                    width: Tokens.bullet
+                                    height: Tokens.bullet
+                                    radius: width / 2
                                     color: Tokens.colors.accent
                                 }
                                 Label {

@@ -7,7 +7,7 @@ FocusScope {
 
     required property TableLine line
 
-    implicitHeight: Math.max(54, texts.height + Tokens.unit)
+    implicitHeight: Math.max(Tokens.productRowHeight, texts.height + Tokens.unit)
     Accessible.role: Accessible.ListItem
     Accessible.name: line.value
     Accessible.focusable: true

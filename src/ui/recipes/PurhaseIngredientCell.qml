@@ -67,7 +67,7 @@ FocusScope {
         anchors.right: parent.right
         anchors.rightMargin: Tokens.unit
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.max(64, Math.min(naturalWidth, cell.room))
+        width: Math.max(Tokens.quantityWidth, Math.min(naturalWidth, cell.room))
         value: cell.edited.length > 0 ? cell.before : cell.line.text
         name: Texts.localized("Quantity") + ": " + cell.line.title
         placeholderText: cell.line.placeholder

@@ -88,7 +88,7 @@ FocusScope {
     onFramedChanged: pictureFrame = part(pictureFrame, framed, frame)
     onCurrentChanged: ring = part(ring, current, focusRing)
 
-    implicitWidth: 320
+    implicitWidth: Tokens.narrowest
     implicitHeight: Math.max(Tokens.rowHeight, contentHeight + 2 * Tokens.unit, icon.visible ? icon.height + 2 * Tokens.unit : 0)
 
     Accessible.role: role

@@ -45,7 +45,7 @@ FocusScope {
         Icon {
             anchors.horizontalCenter: parent.horizontalCenter
             name: row.picture
-            size: Math.min(160, parent.width)
+            size: Math.min(Tokens.pictureRowSize, parent.width)
         }
         Label {
             width: parent.width

@@ -92,7 +92,7 @@ LineItem {
     }
 
     enabled: available
-    width: ListView.view ? ListView.view.width : 320
+    width: ListView.view ? ListView.view.width : Tokens.narrowest
     implicitHeight: loader.implicitHeight + gapAbove
     height: implicitHeight
     objectName: isRow ? "row/" + section + "/" + row : ""

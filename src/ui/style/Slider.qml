@@ -8,7 +8,7 @@ T.Slider {
 
     property string name
 
-    implicitWidth: 160
+    implicitWidth: Tokens.sliderWidth
     implicitHeight: Tokens.rowHeight
     focusPolicy: Qt.StrongFocus
     Accessible.name: name
@@ -30,8 +30,8 @@ T.Slider {
     handle: Rectangle {
         x: control.visualPosition * (control.availableWidth - width)
         y: (control.height - height) / 2
-        implicitWidth: 28
-        implicitHeight: 28
+        implicitWidth: Tokens.knobSize
+        implicitHeight: Tokens.knobSize
         radius: width / 2
         color: Tokens.colors.knob
         border.width: Tokens.hairline

@@ -14,8 +14,8 @@ T.Switch {
     Accessible.name: name
 
     indicator: Rectangle {
-        implicitWidth: 51
-        implicitHeight: 31
+        implicitWidth: Tokens.switchWidth
+        implicitHeight: Tokens.switchHeight
         y: (control.height - height) / 2
         radius: height / 2
         color: control.checked ? Tokens.colors.accent : Tokens.colors.trackOff

@@ -3,7 +3,8 @@ pragma Singleton
 import QtQuick
 import Kesto
 
-/*! Every colour, size, font and duration of the interface. Nothing else in the module states one. */
+/*! Every colour, size, font and duration of the interface. Nothing else in the module states one but shares of what there is
+    and single points. */
 QtObject {
     id: tokens
 
@@ -47,6 +48,21 @@ QtObject {
     readonly property int dialogWidth: 300
     /*! Of a tile of the pattern behind everything. */
     readonly property int patternSize: 144
+    /*! The narrowest window. */
+    readonly property int narrowest: 320
+    /*! What stands for a phase, and what begins a line of a list. */
+    readonly property int dot: 10
+    readonly property int bullet: 6
+    readonly property int productRowHeight: 54
+    readonly property int quantityWidth: 64
+    readonly property int pictureRowSize: 160
+    readonly property int searchWidth: 200
+    readonly property int scopeInset: 3
+    readonly property int smileInset: 3
+    readonly property int switchWidth: 51
+    readonly property int switchHeight: 31
+    readonly property int sliderWidth: 160
+    readonly property int knobSize: 28
     /*! What tells where a row goes that is carried. */
     readonly property int dropLineHeight: 3
     /*! The widest wheel, and one of its rows. */
@@ -82,6 +98,7 @@ QtObject {
     readonly property int textOfScopes: 17
     readonly property int textOfBars: 24
     readonly property int textOfTitles: 28
+    readonly property int textOfPeriods: Math.round(10 * textScale)
     readonly property int textSmall: Math.round(14 * textScale)
     readonly property int textBody: Math.round(16 * textScale)
     readonly property int textTitle: Math.round(Styllesheet.barTitleSize * textScale)
