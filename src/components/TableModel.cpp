@@ -64,40 +64,7 @@ TableSection withoutLines(TableSection section, int first, int count)
 
 int TableModel::rowCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : firstLines_.last(); }
 
-QHash<int, QByteArray> TableModel::roleNames() const
-{
-    return {{TypeRole, "type"},
-            {SectionRole, "section"},
-            {RowRole, "row"},
-            {IsFirstRole, "isFirst"},
-            {IsLastRole, "isLast"},
-            {KindRole, "kind"},
-            {TitleRole, "title"},
-            {SubtitleRole, "subtitle"},
-            {DetailRole, "detail"},
-            {ImageRole, "image"},
-            {AccessoryRole, "accessory"},
-            {CheckedRole, "checked"},
-            {OnRole, "on"},
-            {SelectedRole, "selected"},
-            {EnabledRole, "enabled"},
-            {SelectableRole, "selectable"},
-            {DestructiveRole, "destructive"},
-            {StruckThroughRole, "struckThrough"},
-            {CanDeleteRole, "canDelete"},
-            {CanMoveRole, "canMove"},
-            {TagRole, "tag"},
-            {TextRole, "text"},
-            {PlaceholderRole, "placeholder"},
-            {UnitRole, "unit"},
-            {KeyboardRole, "keyboard"},
-            {ColorRole, "color"},
-            {BadgesRole, "badges"},
-            {CellRole, "cell"},
-            {ValueRole, "value"},
-            {PickerRole, "picker"},
-            {TableModelRole, "tableModel"}};
-}
+QHash<int, QByteArray> TableModel::roleNames() const { return {{TableModelRole, "tableModel"}}; }
 
 int TableModel::sectionOf(int line) const
 {
@@ -128,92 +95,9 @@ TableModel::Line TableModel::lineAt(int line) const
 
 QVariant TableModel::data(const QModelIndex &index, int role) const
 {
-    if (!index.isValid() || index.row() >= rowCount())
+    if (!index.isValid() || role != TableModelRole)
         return {};
-    const Line line = lineAt(index.row());
-    switch (role) {
-    case TypeRole:
-        return static_cast<int>(line.type);
-    case SectionRole:
-        return line.path.section;
-    case RowRole:
-        return line.path.row;
-    case IsFirstRole:
-        return line.path.row == 0;
-    case IsLastRole:
-        return line.last;
-    case TableModelRole:
-        return QVariant::fromValue(const_cast<TableModel *>(this)); // NOLINT: views may call what they know of it
-    default:
-        return rowData(line.shown, role);
-    }
-}
-
-QVariantList TableModel::badgesOf(const TableRow &row)
-{
-    QVariantList badges;
-    for (const TableRow::Badge &badge : row.badges)
-        badges.append(QVariantMap{{QStringLiteral("text"), badge.text}, {QStringLiteral("color"), badge.color}});
-    return badges;
-}
-
-QVariant TableModel::rowData(const TableRow &row, int role)
-{
-    switch (role) {
-    case KindRole:
-        return static_cast<int>(row.kind);
-    case Qt::DisplayRole:
-    case TitleRole:
-        return row.title;
-    case SubtitleRole:
-        return row.subtitle;
-    case DetailRole:
-        return row.detail;
-    case ImageRole:
-        return row.image;
-    case AccessoryRole:
-        return static_cast<int>(row.accessory);
-    case CheckedRole:
-        return row.checked;
-    case OnRole:
-        return row.on;
-    case SelectedRole:
-        return row.selected;
-    case EnabledRole:
-        return row.enabled;
-    case SelectableRole:
-        return row.selectable;
-    case DestructiveRole:
-        return row.destructive;
-    case StruckThroughRole:
-        return row.struckThrough;
-    case CanDeleteRole:
-        return row.canDelete;
-    case CanMoveRole:
-        return row.canMove;
-    case TagRole:
-        return row.tag;
-    case TextRole:
-        return row.text;
-    case PlaceholderRole:
-        return row.placeholder;
-    case UnitRole:
-        return row.unit;
-    case KeyboardRole:
-        return static_cast<int>(row.keyboard);
-    case ColorRole:
-        return row.color.isValid() ? QVariant(row.color) : QVariant();
-    case BadgesRole:
-        return badgesOf(row);
-    case CellRole:
-        return row.cell;
-    case ValueRole:
-        return row.value;
-    case PickerRole:
-        return QVariant::fromValue(row.picker);
-    default:
-        return {};
-    }
+    return QVariant::fromValue(const_cast<TableModel *>(this)); // NOLINT: views may call what they know of it
 }
 
 int TableModel::numberOfRowsInSection(int section) const { return static_cast<int>(sections_.at(section).rows.size()); }
@@ -233,9 +117,10 @@ int TableModel::line(const IndexPath &path) const
 
 std::optional<IndexPath> TableModel::indexPath(int line) const
 {
-    const QModelIndex at = index(line);
-    const IndexPath path{data(at, SectionRole).toInt(), data(at, RowRole).toInt()};
-    return at.isValid() && path.row >= 0 ? std::optional(path) : std::nullopt;
+    if (line < 0 || line >= rowCount())
+        return std::nullopt;
+    const IndexPath path = lineAt(line).path;
+    return path.row >= 0 ? std::optional(path) : std::nullopt;
 }
 
 void TableModel::countLines()
@@ -253,13 +138,13 @@ void TableModel::linesChanged(int first, int last, const QList<int> &roles)
 
 void TableModel::renumbered(int section)
 {
-    linesChanged(firstLine(section), firstLine(section + 1) - 1, {RowRole, IsFirstRole, IsLastRole});
+    linesChanged(firstLine(section), firstLine(section + 1) - 1, {TableModelRole});
 }
 
 void TableModel::renumberedFrom(int section)
 {
     if (section < numberOfSections())
-        linesChanged(firstLine(section), rowCount() - 1, {SectionRole});
+        linesChanged(firstLine(section), rowCount() - 1, {TableModelRole});
 }
 
 void TableModel::setSections(const QList<TableSection> &sections)
@@ -380,7 +265,7 @@ void TableModel::moveRow(const IndexPath &from, const IndexPath &to)
     countLines();
     if (moves) // not from the end of a section to the beginning of the next where no header is between
         endMoveRows();
-    linesChanged(line(to), line(to), {SectionRole});
+    linesChanged(line(to), line(to), {TableModelRole});
     renumbered(from.section);
     if (from.section != to.section)
         renumbered(to.section);

@@ -27,37 +27,8 @@ class TableModel : public QAbstractListModel
     Q_OBJECT
 public:
     enum Role {
-        TypeRole = Qt::UserRole, ///< type: a LineType
-        SectionRole,             ///< section
-        RowRole,                 ///< row; −1 for headers and footers
-        IsFirstRole,             ///< isFirst: the first row of its section
-        IsLastRole,              ///< isLast: the last row of its section
-        KindRole,                ///< kind: a TableRow::Kind
-        TitleRole,               ///< title; of headers and footers their text
-        SubtitleRole,
-        DetailRole,
-        ImageRole,
-        AccessoryRole,
-        CheckedRole,
-        OnRole,
-        SelectedRole,
-        EnabledRole,
-        SelectableRole,
-        DestructiveRole,
-        StruckThroughRole,
-        CanDeleteRole,
-        CanMoveRole,
-        TagRole,
-        TextRole,
-        PlaceholderRole,
-        UnitRole,
-        KeyboardRole,
-        ColorRole,  ///< color: undefined when it has no meaning
-        BadgesRole, ///< badges: a list of {text, color}
-        CellRole,
-        ValueRole,
-        PickerRole,    ///< picker: a Picker or null
-        TableModelRole ///< tableModel: this one, for who reads a line() as a whole
+        TableModelRole =
+            Qt::UserRole ///< tableModel: this one; views read what lineAt() says, as a role each costs more
     };
     enum class LineType { Header, Row, Footer };
     Q_ENUM(LineType)
@@ -87,8 +58,6 @@ public:
     [[nodiscard]] const TableSection &section(int section) const { return sections_.at(section); }
     /// One that exists.
     [[nodiscard]] Line lineAt(int line) const;
-    /// A row's badges for views: a list of {text, color}.
-    [[nodiscard]] static QVariantList badgesOf(const TableRow &row);
     /// The line of this list that a row is in, and back; nothing for headers and footers.
     [[nodiscard]] int line(const IndexPath &path) const;
     [[nodiscard]] std::optional<IndexPath> indexPath(int line) const;
@@ -110,10 +79,10 @@ private:
     [[nodiscard]] int firstLine(int section) const { return firstLines_.at(section); }
     [[nodiscard]] int sectionOf(int line) const;
     void countLines();
+    /// With the role named, only places changed, not what is shown.
     void linesChanged(int first, int last, const QList<int> &roles = {});
     void renumbered(int section);
     void renumberedFrom(int section);
-    [[nodiscard]] static QVariant rowData(const TableRow &row, int role);
 
     QList<TableSection> sections_;
     QList<int> firstLines_{0}; // of each section, and of one behind the last

@@ -47,4 +47,12 @@ void LineItem::read()
 
 QVariant LineItem::color() const { return line_.shown.color.isValid() ? QVariant(line_.shown.color) : QVariant(); }
 
+QVariantList LineItem::badges() const
+{
+    QVariantList badges;
+    for (const TableRow::Badge &badge : line_.shown.badges)
+        badges.append(QVariantMap{{QStringLiteral("text"), badge.text}, {QStringLiteral("color"), badge.color}});
+    return badges;
+}
+
 } // namespace kesto

@@ -90,7 +90,7 @@ public:
     [[nodiscard]] QString unit() const { return line_.shown.unit; }
     [[nodiscard]] int keyboard() const { return static_cast<int>(line_.shown.keyboard); }
     [[nodiscard]] QVariant color() const;
-    [[nodiscard]] QVariantList badges() const { return TableModel::badgesOf(line_.shown); }
+    [[nodiscard]] QVariantList badges() const;
     [[nodiscard]] QString cell() const { return line_.shown.cell; }
     [[nodiscard]] QVariant value() const { return line_.shown.value; }
     [[nodiscard]] QVariantList values() const { return line_.shown.value.toList(); }

@@ -233,7 +233,7 @@ TEST(Cart, OpensALongListWithFewStatements)
         EXPECT_GT(opening, 0);
         // All that scrolling asks for.
         for (int line = 0; line < cart.table().rowCount(); ++line)
-            EXPECT_FALSE(cart.table().index(line).data(TableModel::TitleRole).toString().isEmpty());
+            EXPECT_FALSE(cart.table().lineAt(line).shown.title.isEmpty());
         EXPECT_EQ(log.count(), 0);
         cart.screen->selectRow(lines, size / 2);
         return std::pair(opening, log.count());
