@@ -8,7 +8,9 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
 find_program(KESTO_CCACHE ccache)
 if(KESTO_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_CXX_COMPILER_LAUNCHER "${KESTO_CCACHE}")
+  # Paths below the checkout are hashed as relative ones, so a clone in another folder finds what this one compiled.
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+    "${CMAKE_COMMAND}" -E env "CCACHE_BASEDIR=${CMAKE_SOURCE_DIR}" CCACHE_NOHASHDIR=1 "${KESTO_CCACHE}")
 endif()
 
 find_program(KESTO_MOLD mold)

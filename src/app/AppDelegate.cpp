@@ -179,7 +179,7 @@ void AppDelegate::applicationWillTerminate()
 }
 
 // Who is in the background may be ended without another word.
-void AppDelegate::saveChanges() { (void)CoreDataManager::sharedManager().managedObjectContext()->save(); }
+void AppDelegate::saveChanges() { CoreDataManager::sharedManager().managedObjectContext()->saveOrKeepChanges(); }
 
 bool AppDelegate::lockScreenManagerShouldShowLockScreen(BKPasscodeLockScreenManager &)
 {

@@ -115,7 +115,7 @@ CartViewController *openFullCart(TourGuide &guide)
             lines[i]->setCount(QString::fromLatin1(counts[i]));
         for (size_t i = 1; i < lines.size(); i += 3)
             lines[i]->setPurchased(true);
-        (void)context().save();
+        context().saveOrKeepChanges();
     }
     return openCart(guide);
 }

@@ -95,7 +95,7 @@ void startDiet(TourGuide &guide, int attack, int cruise)
             day.addDishes(planned);
         }
     }
-    (void)context.save();
+    context.saveOrKeepChanges();
 }
 
 CalendarViewController *openCalendar(TourGuide &guide, int attack = attackDays, int cruise = cruiseDays)

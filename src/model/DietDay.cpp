@@ -52,7 +52,7 @@ DietDay &DietDay::dietDatWithDate(const QDateTime &date, ManagedObjectContext &i
         return *known;
     auto &day = inManagedObjectContext.insert<DietDay>();
     day.setDate(date);
-    (void)inManagedObjectContext.save(); // what could not be written stays to be saved with the next change
+    inManagedObjectContext.saveOrKeepChanges();
     return day;
 }
 

@@ -39,7 +39,7 @@ Ingredient &Ingredient::ingredientWithName(const QString &name, ManagedObjectCon
         return *known;
     auto &ingredient = inManagedObjectContext.insert<Ingredient>();
     ingredient.setName(name);
-    (void)inManagedObjectContext.save(); // what could not be written stays to be saved with the next change
+    inManagedObjectContext.saveOrKeepChanges();
     return ingredient;
 }
 

@@ -59,7 +59,7 @@ void DietDayDetailViewController::addDishToDietDay(Dish &dish, ManagedObjectCont
     createContent();    // the list that the dish was chosen in may have deleted others
     renumber(content_); // and left gaps
     plan(dish);
-    (void)toManagedObjectContext.save(); // what could not be written stays to be saved with the next change
+    toManagedObjectContext.saveOrKeepChanges();
     createContent();
     reloadSection(DishesSection);
 }

@@ -7,6 +7,6 @@ namespace kesto
 
 ManagedObjectContext &planContext() { return *CoreDataManager::sharedManager().managedObjectContext(); }
 
-void savePlan() { (void)planContext().save(); }
+void savePlan() { planContext().saveOrKeepChanges(); }
 
 } // namespace kesto

@@ -23,7 +23,7 @@ QString nameOf(const PurhaseIngredient &line) { return QString::number(line.obje
 
 void save(const PurhaseIngredient &line)
 {
-    (void)line.managedObjectContext().save(); // what can't be saved stays to be saved with the next change
+    line.managedObjectContext().saveOrKeepChanges();
 }
 
 QString clearTitle() { return localized(QStringLiteral("Отчистить корзину")); }

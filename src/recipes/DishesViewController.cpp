@@ -94,7 +94,7 @@ void DishesViewController::dishAdded(Dish &dish)
 {
     if (category_ != nullptr) {
         category_->addDishes(dish);
-        (void)dish.managedObjectContext().save(); // what can't be saved stays to be saved with the next change
+        dish.managedObjectContext().saveOrKeepChanges();
     }
     reloadData();
 }
@@ -178,7 +178,7 @@ void DishesViewController::selectItem(int row)
     auto screen = choice_.screenOf(*dish, addDishMode() && dayAlreadyIncludeDish(*dish), *this);
     if (dish->recipeNew()) {
         dish->setRecipeNew({});
-        (void)dish->managedObjectContext().save(); // nothing is lost: it goes along with the next save
+        dish->managedObjectContext().saveOrKeepChanges();
         DishTile tile = tiles_.tiles()[row];
         tile.mark = QString();
         tiles_.setTile(row, tile);

@@ -109,7 +109,7 @@ void CoreDataManager::updateSqliteFileForNewStartDietDay()
     const qint64 days = defaults.integerForKey(Keys::kPeriod1Key);
     for (qint64 i = 0; i < days; ++i)
         DietDay::dietDatWithDate(start->addSecs(i * 86400), *context).setChB(true);
-    (void)context->save(); // what could not be written stays to be saved with the next change
+    context->saveOrKeepChanges();
 }
 
 void CoreDataManager::reparseSqliteIfNeeded(const std::function<void()> &parse)

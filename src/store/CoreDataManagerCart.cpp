@@ -62,13 +62,13 @@ void CoreDataManager::addIngredientToCard(const QString &text)
         line->setIngredient(&ingredient);
     }
     line->setDate(platform_.clock().now());
-    (void)context_->save();
+    context_->saveOrKeepChanges();
 }
 
 void CoreDataManager::removePurchaseIngredientFromCard(PurhaseIngredient &line)
 {
     remove(line);
-    (void)context_->save();
+    context_->saveOrKeepChanges();
 }
 
 void CoreDataManager::removeAllPurchaseIngredientsFromCard()
@@ -77,7 +77,7 @@ void CoreDataManager::removeAllPurchaseIngredientsFromCard()
     request.relationshipKeyPathsForPrefetching = {"ingredient.purchaseIngredient"};
     for (PurhaseIngredient *line : context_->fetch<PurhaseIngredient>(request))
         remove(*line);
-    (void)context_->save(); // one a line would take minutes for a long list
+    context_->saveOrKeepChanges();
 }
 
 } // namespace kesto

@@ -72,7 +72,7 @@ void CoreDataManager::deleteDish(Dish &dish)
     keepPurchases(dish.ingredientsRU());
     keepPurchases(dish.ingredientsENG());
     context.deleteObject(dish);
-    (void)context.save(); // what can't be saved stays to be saved with the next change
+    context.saveOrKeepChanges();
 }
 
 bool CoreDataManager::saveRecipesToPlist()

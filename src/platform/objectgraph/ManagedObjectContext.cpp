@@ -207,6 +207,13 @@ bool ManagedObjectContext::save(StoreError *error)
     return true;
 }
 
+void ManagedObjectContext::saveOrKeepChanges()
+{
+    StoreError error;
+    if (!save(&error))
+        log("error while saving context - %@", error.description);
+}
+
 bool ManagedObjectContext::hasChanges() const
 {
     // What was inserted and deleted again needs no save.

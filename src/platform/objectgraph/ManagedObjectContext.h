@@ -63,6 +63,9 @@ public:
     /// the objects stay as they were, unsaved, and a later save can succeed. True at once when there is nothing to
     /// save.
     [[nodiscard]] bool save(StoreError *error = nullptr);
+    /// Saves where nothing else can be done about a failure: the changes stay in memory and go along with the next
+    /// save.
+    void saveOrKeepChanges();
 
     [[nodiscard]] bool hasChanges() const;
 
