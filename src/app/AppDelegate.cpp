@@ -2,7 +2,6 @@
 
 #include "app/PlainViewController.h"
 #include "app/RootViewConrollerViewController.h"
-#include "app/Styllesheet.h"
 #include "components/AlertCenter.h"
 #include "components/DayWatch.h"
 #include "components/NavigationController.h"
@@ -17,6 +16,7 @@
 #include "platform/UserDefaults.h"
 #include "store/CoreDataManager.h"
 #include "store/Keys.h"
+#include "style/Styllesheet.h"
 
 #include <utility>
 

@@ -1,7 +1,9 @@
 #include "app/ApplicationServices.h"
 #include "app/CommandLine.h"
 #include "app/Program.h"
-#include "app/Tour.h"
+#ifdef KESTO_TOUR
+#include "tour/Tour.h"
+#endif
 
 #include <QGuiApplication>
 #include <QTextStream>
@@ -13,7 +15,7 @@ namespace
 
 using kesto::CommandLine;
 
-// Before there is an application: Qt ends the process without a usable word when it finds no display.
+// Asked before QGuiApplication is created, which aborts without a usable message when it finds no display.
 bool hasDisplay()
 {
     for (const char *name : {"WAYLAND_DISPLAY", "WAYLAND_SOCKET", "DISPLAY", "QT_QPA_PLATFORM"}) {
@@ -27,14 +29,28 @@ bool hasDisplay()
 #endif
 }
 
-// The pictures are the same on every machine, with a display or without.
-void drawWithoutDisplay()
+#ifdef KESTO_TOUR
+int takeTour(const CommandLine &line, int argumentCount, char **arguments)
 {
+    // Without a display as well, and with the same pixels on every machine.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
         qputenv("QT_QUICK_BACKEND", "software");
+    if (line.tourPart.isEmpty()) {
+        const QCoreApplication application(argumentCount, arguments);
+        return kesto::runTour(line);
+    }
+    const QGuiApplication application(argumentCount, arguments);
+    return kesto::runTourPart(line);
 }
+#else
+int takeTour(const CommandLine &, int, char **)
+{
+    QTextStream(stderr) << "kesto: This program was built without the tour (KESTO_TOUR)." << Qt::endl;
+    return CommandLine::wrongArguments;
+}
+#endif
 
 int run(const CommandLine &line)
 {
@@ -67,6 +83,7 @@ int main(int argc, char **argv)
         arguments.append(QString::fromLocal8Bit(argv[i]));
     const CommandLine line = CommandLine::parse(arguments);
 
+    int onlyName = 1; // Qt must not look for its own options in the command line, which is parsed already
     switch (line.action) {
     case CommandLine::Action::Refuse:
         QTextStream(stderr) << "kesto: " << line.error << "\nSee kesto --help." << Qt::endl;
@@ -78,24 +95,16 @@ int main(int argc, char **argv)
         QTextStream(stdout) << "kesto " << QCoreApplication::applicationVersion() << Qt::endl;
         return 0;
     case CommandLine::Action::Tour:
-        drawWithoutDisplay();
-        break;
+        return takeTour(line, onlyName, argv);
     case CommandLine::Action::Run:
-        if (!hasDisplay()) {
-            QTextStream(stderr) << "kesto: There is no display. Pictures of the screens: kesto --tour <folder>"
-                                << Qt::endl;
-            return 1;
-        }
         break;
     }
-
-    // The command line is understood already; Qt looks for options of its own in it, which are none of ours.
-    int onlyName = 1;
-    if (line.action == CommandLine::Action::Tour && line.tourPart.isEmpty()) {
-        const QCoreApplication application(onlyName, argv);
-        return kesto::runTour(line);
+    if (!hasDisplay()) {
+        QTextStream(stderr) << "kesto: There is no display. To save pictures of the screens: kesto --tour <folder>"
+                            << Qt::endl;
+        return 1;
     }
     const QGuiApplication application(onlyName, argv);
     QGuiApplication::setDesktopFileName(QStringLiteral("kesto"));
-    return line.action == CommandLine::Action::Tour ? kesto::runTourPart(line) : run(line);
+    return run(line);
 }

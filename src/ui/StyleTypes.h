@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/Styllesheet.h"
 #include "platform/Platform.h"
+#include "style/Styllesheet.h"
 
 #include <QQmlEngine>
 #include <QtQml/qqmlregistration.h>

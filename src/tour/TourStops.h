@@ -10,8 +10,8 @@ namespace kesto
 
 class TourGuide;
 
-/// A place worth a picture. show() brings the program there from the main screens; the tour takes the picture under
-/// this name and goes home.
+/// A screen in a state that is worth a picture. show() gets there from the main screens; then the tour takes the
+/// picture under this name and goes back.
 struct TourStop
 {
     QString name;

@@ -16,17 +16,15 @@ namespace kesto
 class Platform;
 class RootViewConrollerViewController;
 
-/// Starts a program, leads through its screens by what a person could do, and takes their pictures.
+/// Starts a program, opens its screens as a user could, and takes their pictures.
 class TourGuide
 {
 public:
     /// The pictures are called "<prefix>-<number>-<name>.png".
     TourGuide(Program::Options options, QString folder, QString prefix);
 
-    /// Starts the program; one that runs is ended first, without a word to it. Without a program nothing else may be
-    /// asked for.
+    /// Nothing else may be called before it succeeded.
     [[nodiscard]] bool startProgram();
-    [[nodiscard]] bool hasProgram() const { return program_ != nullptr; }
     [[nodiscard]] Platform &platform();
     [[nodiscard]] Window &window();
     [[nodiscard]] RootViewConrollerViewController &menu();
@@ -38,20 +36,20 @@ public:
         return found.isEmpty() ? nullptr : found.last();
     }
 
-    /// Brings the menu in on a phone; on a tablet in portrait as well.
+    /// Opens the menu on a phone and on a tablet in portrait, where it is closed.
     void openMenu();
     /// Touches a row of the menu.
     void openRow(int row);
-    /// Answers alerts, leaves what is presented and pushed in the menu, closes the menu.
+    /// Cancels alerts, dismisses presented screens, pops the menu's navigation, closes the menu.
     void goHome();
-    /// Lets the program run until nothing moves any more.
+    /// Runs the event loop for this long.
     void settle(std::chrono::milliseconds time = std::chrono::milliseconds(200));
-    /// Lets it run until nothing is presented over the main screens; false when that takes more than a minute.
+    /// Runs the event loop until nothing is presented over the main screens. False after a minute.
     [[nodiscard]] bool waitUntilNothingIsPresented();
 
     /// Saves what the window shows.
     void takePicture(const QString &name);
-    /// Something is not as it should be: the tour fails in the end.
+    /// Makes the tour fail at its end, with this sentence.
     void complain(const QString &sentence) { complaints_.append(sentence); }
 
     [[nodiscard]] const QStringList &pictures() const { return pictures_; }

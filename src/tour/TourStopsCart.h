@@ -1,13 +1,13 @@
 #pragma once
 
-#include "app/TourStops.h"
+#include "tour/TourStops.h"
 
 namespace kesto
 {
 
 /// The list of products and its legend.
 [[nodiscard]] QList<TourStop> productTourStops();
-/// A dish in all its ways.
+/// One dish: read, to choose, the user's own, and its full picture.
 [[nodiscard]] QList<TourStop> dishTourStops();
 /// The shopping list, empty and full.
 [[nodiscard]] QList<TourStop> cartTourStops();

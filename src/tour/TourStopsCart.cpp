@@ -1,7 +1,6 @@
-#include "app/TourStopsCart.h"
+#include "tour/TourStopsCart.h"
 
 #include "app/RootViewConrollerViewController.h"
-#include "app/TourGuide.h"
 #include "components/AlertCenter.h"
 #include "components/Shell.h"
 #include "model/Dish.h"
@@ -14,6 +13,7 @@
 #include "recipes/DishDetailViewController.h"
 #include "recipes/IngredientsViewController.h"
 #include "store/CoreDataManager.h"
+#include "tour/TourGuide.h"
 
 #include <iterator>
 

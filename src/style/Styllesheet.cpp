@@ -1,4 +1,4 @@
-#include "app/Styllesheet.h"
+#include "style/Styllesheet.h"
 
 #include <QFont>
 #include <QFontDatabase>

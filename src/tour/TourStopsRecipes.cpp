@@ -1,8 +1,6 @@
-#include "app/TourStopsRecipes.h"
+#include "tour/TourStopsRecipes.h"
 
 #include "app/RootViewConrollerViewController.h"
-#include "app/TourGuide.h"
-#include "app/TourStopsPlan.h"
 #include "components/BarButtonItem.h"
 #include "model/Dish.h"
 #include "model/DishesCategory.h"
@@ -12,6 +10,8 @@
 #include "recipes/FavoritesManager.h"
 #include "recipes/FavoritesViewController.h"
 #include "store/CoreDataManager.h"
+#include "tour/TourGuide.h"
+#include "tour/TourStopsPlan.h"
 
 namespace kesto
 {

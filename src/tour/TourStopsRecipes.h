@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/TourStops.h"
+#include "tour/TourStops.h"
 
 namespace kesto
 {

@@ -1,9 +1,9 @@
-#include "app/Tour.h"
+#include "tour/Tour.h"
 
-#include "app/TourGuide.h"
-#include "app/TourStops.h"
 #include "components/Window.h"
 #include "import/UpdatingDatabaseViewController.h"
+#include "tour/TourGuide.h"
+#include "tour/TourStops.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -40,13 +40,24 @@ QString nameOf(const Part &part, const QString &language)
     return QString::fromUtf16(part.name) + QLatin1Char('-') + language;
 }
 
-int fail(const QString &reason, int result = 1)
+int fail(const QString &reason)
 {
     QTextStream(stderr) << "kesto: " << reason << Qt::endl;
-    return result;
+    return 1;
 }
 
-/// All at once: they wait for the screens to settle more than they work.
+/// Tells the user when it can't.
+bool createFolder(const QString &folder)
+{
+    const bool created = QDir().mkpath(folder);
+    if (!created)
+        (void)fail(QStringLiteral("The folder %1 can't be created.").arg(folder));
+    else if (!QFileInfo(folder).isWritable())
+        (void)fail(QStringLiteral("The folder %1 can't be written.").arg(folder));
+    return created && QFileInfo(folder).isWritable();
+}
+
+/// In parallel: they wait for screens to settle most of the time.
 int runParts(const QString &folder, const QStringList &names, QStringList &files)
 {
     std::vector<std::unique_ptr<QProcess>> processes;
@@ -68,7 +79,7 @@ int runParts(const QString &folder, const QStringList &names, QStringList &files
     return result;
 }
 
-/// The first picture is the preparation of the recipes, held for as long as it takes.
+/// Pauses the import for the first picture.
 bool waitForImport(TourGuide &guide)
 {
     const QList<ViewController *> presented = guide.window().presentedViewControllers();
@@ -89,8 +100,6 @@ void takeAllPictures(TourGuide &guide)
     }
     for (const TourStop &stop : tourStops()) {
         stop.show(guide);
-        if (!guide.hasProgram())
-            return;
         guide.takePicture(stop.name);
         guide.goHome();
     }
@@ -101,10 +110,8 @@ void takeAllPictures(TourGuide &guide)
 int runTour(const CommandLine &line)
 {
     const QString folder = QDir(line.tourFolder).absolutePath();
-    if (!QDir().mkpath(folder))
-        return fail(QStringLiteral("The folder %1 can't be made.").arg(folder), CommandLine::wrongArguments);
-    if (!QFileInfo(folder).isWritable())
-        return fail(QStringLiteral("The folder %1 can't be written.").arg(folder), CommandLine::wrongArguments);
+    if (!createFolder(folder))
+        return CommandLine::wrongArguments;
     QStringList names;
     for (const Part &part : parts) {
         for (const QString &language : languages()) {
@@ -127,9 +134,11 @@ int runTourPart(const CommandLine &line)
             const QString name = nameOf(part, language);
             if (name != line.tourPart)
                 continue;
+            if (!createFolder(line.tourFolder))
+                return CommandLine::wrongArguments;
             const QTemporaryDir data;
             if (!data.isValid())
-                return fail(QStringLiteral("There is no room for temporary data."));
+                return fail(QStringLiteral("No temporary folder could be created."));
             TourGuide guide({.dataFolder = data.filePath(QStringLiteral("data")),
                              .resourcesFolder = {},
                              .language = language,

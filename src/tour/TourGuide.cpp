@@ -1,4 +1,4 @@
-#include "app/TourGuide.h"
+#include "tour/TourGuide.h"
 
 #include "app/RootViewConrollerViewController.h"
 #include "components/AlertCenter.h"
@@ -28,12 +28,9 @@ TourGuide::TourGuide(Program::Options options, QString folder, QString prefix)
 
 bool TourGuide::startProgram()
 {
-    if (hasProgram())
-        settle(std::chrono::milliseconds(0)); // the user defaults are written when the event loop turns
-    program_.reset();
     QString error;
     program_ = Program::start(options_, &error);
-    if (!hasProgram()) {
+    if (program_ == nullptr) {
         complain(error);
         return false;
     }

@@ -1,15 +1,14 @@
-#include "app/TourStops.h"
+#include "tour/TourStops.h"
 
 #include "app/RootViewConrollerViewController.h"
-#include "app/TourGuide.h"
-#include "app/TourStopsCart.h"
-#include "app/TourStopsMainJob.h"
-#include "app/TourStopsPlan.h"
-#include "app/TourStopsRecipes.h"
 #include "components/BKPasscodeLockScreenManager.h"
 #include "platform/Platform.h"
 #include "platform/UserDefaults.h"
 #include "store/Keys.h"
+#include "tour/TourGuide.h"
+#include "tour/TourStopsCart.h"
+#include "tour/TourStopsPlan.h"
+#include "tour/TourStopsRecipes.h"
 
 namespace kesto
 {
@@ -38,23 +37,18 @@ QList<TourStop> tourStops()
         {QStringLiteral("calendar-not-yet"), row(RootViewConrollerViewController::calendarRow)},
         {QStringLiteral("no-favourites"), row(RootViewConrollerViewController::favoritesRow)},
         {QStringLiteral("empty-shopping-list"), row(8)},
-    };
-    stops += mainJobTourStops();
-    stops += QList<TourStop>{
         {QStringLiteral("about-diet"), row(0)},
         {QStringLiteral("phases"), row(1)},
+    };
+    stops += calculatorTourStops();
+    stops += calendarTourStops();
+    stops += QList<TourStop>{
+        {QStringLiteral("graph"), row(5)},
+        {QStringLiteral("journal"), row(7)},
     };
     stops += productTourStops();
     stops += catalogueTourStops();
     stops += dishTourStops();
-    stops += calculatorTourStops();
-    stops += QList<TourStop>{
-        {QStringLiteral("graph"), row(5)},
-    };
-    stops += calendarTourStops();
-    stops += QList<TourStop>{
-        {QStringLiteral("journal"), row(7)},
-    };
     stops += cartTourStops();
     stops += favouriteTourStops();
     stops += QList<TourStop>{
@@ -62,7 +56,7 @@ QList<TourStop> tourStops()
         {QStringLiteral("tips"), row(11)},
         {QStringLiteral("info"), [](TourGuide &guide) { guide.menu().showInfo(); }},
         {QStringLiteral("settings"), [](TourGuide &guide) { guide.menu().showSettings(); }},
-        {QStringLiteral("lock"), lockScreen}, // the last: only the passcode leads away from it
+        {QStringLiteral("lock"), lockScreen}, // last: nothing but the passcode closes it
     };
     return stops;
 }

@@ -1,17 +1,17 @@
 #pragma once
 
-#include "app/TourStops.h"
+#include "tour/TourStops.h"
 
 namespace kesto
 {
 
 class DietDayDetailViewController;
 
-/// The screen of today, beside the calendar or over it, once a diet runs.
+/// The screen of today. Null when no diet has been started.
 DietDayDetailViewController *openToday(TourGuide &guide);
 
 [[nodiscard]] QList<TourStop> calculatorTourStops();
-/// From the first of them on a diet runs.
+/// The first of them starts a diet, which the stops after these rely on.
 [[nodiscard]] QList<TourStop> calendarTourStops();
 
 } // namespace kesto

@@ -1,7 +1,6 @@
-#include "app/TourStopsPlan.h"
+#include "tour/TourStopsPlan.h"
 
 #include "app/RootViewConrollerViewController.h"
-#include "app/TourGuide.h"
 #include "model/DietDay.h"
 #include "model/Dish.h"
 #include "model/DishInDietDay.h"
@@ -14,6 +13,7 @@
 #include "platform/UserDefaults.h"
 #include "store/CoreDataManager.h"
 #include "store/Keys.h"
+#include "tour/TourGuide.h"
 #include "util/MNAdditions.h"
 
 namespace kesto
