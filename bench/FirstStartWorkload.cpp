@@ -150,7 +150,7 @@ Workload firstStart(Fixtures &fixtures)
     return {.name = "first start: the shipped catalogue parsed, imported and saved",
             .contenders = {contender<OurFirstStart>("ours"),
                            contender<PlainFirstStart>("pugixml and plain C API", fixtures)},
-            .bars = {{Bar::Kind::TimesContender, 1.5, "pugixml and plain C API"}, {Bar::Kind::SyncsExactly, 1}}};
+            .bars = {{Bar::Kind::TimesContender, 1.3, "pugixml and plain C API"}, {Bar::Kind::SyncsExactly, 1}}};
 }
 
 } // namespace kesto::bench

@@ -9,12 +9,10 @@
 #include "model/Ingredient.h"
 #include "model/JornalDay.h"
 #include "model/TimeRow.h"
-#include "platform/PropertyList.h"
 #include "platform/objectgraph/ManagedObjectContext.h"
 #include "platform/objectgraph/PersistentStoreCoordinator.h"
 
 #include <QFile>
-#include <QVariant>
 
 #include <random>
 
@@ -129,36 +127,6 @@ const QString &Fixtures::diaryFile()
         mustSave(store.context());
     }
     return diaryFile_;
-}
-
-const QByteArray &Fixtures::propertyList()
-{
-    if (!propertyList_.isNull())
-        return propertyList_;
-    QVariantList recipes;
-    Texts texts;
-    qsizetype size = 0;
-    for (size_t i = 0; size < 1'500'000; ++i) {
-        const DishInput &dish = dishes_[i % dishes_.size()];
-        QVariantList russian, english;
-        for (int line = 0; line < 9; ++line) {
-            russian.append(texts.line(true));
-            english.append(texts.line(false));
-        }
-        const QVariantMap recipe{{QStringLiteral("id"), dish.dishID},
-                                 {QStringLiteral("nameRU"), dish.nameRU},
-                                 {QStringLiteral("nameENG"), dish.nameENG},
-                                 {QStringLiteral("recipeRU"), dish.recipeRU},
-                                 {QStringLiteral("recipeENG"), dish.recipeENG},
-                                 {QStringLiteral("period"), dish.dietPeriod},
-                                 {QStringLiteral("category"), static_cast<qint64>(dish.category)},
-                                 {QStringLiteral("linesRU"), russian},
-                                 {QStringLiteral("linesENG"), english}};
-        size += PropertyList::serialize(recipe).value().size() - 180; // less the head that each would have alone
-        recipes.append(recipe);
-    }
-    propertyList_ = PropertyList::serialize(QVariantMap{{QStringLiteral("recipes"), recipes}}).value();
-    return propertyList_;
 }
 
 FileCopy::FileCopy(Fixtures &fixtures, const QString &original)

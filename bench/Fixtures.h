@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QByteArray>
 #include <QDateTime>
 #include <QString>
 #include <QTemporaryDir>
@@ -53,8 +52,6 @@ public:
     [[nodiscard]] const std::vector<DishInput> &dishes() const { return dishes_; }
     /// The days of the diary file, in order.
     [[nodiscard]] const std::vector<QDateTime> &days() const { return days_; }
-    /// 1.5 MB: the dishes with their lines.
-    [[nodiscard]] const QByteArray &propertyList();
 
     // Paths of store files, closed. A trial works on a copy.
     [[nodiscard]] const QString &emptyFile();
@@ -69,7 +66,6 @@ private:
     std::vector<CategoryInput> categories_;
     std::vector<DishInput> dishes_;
     std::vector<QDateTime> days_;
-    QByteArray propertyList_;
     QString emptyFile_, catalogueFile_, diaryFile_;
 };
 

@@ -17,7 +17,6 @@ std::vector<Workload> allWorkloads(Fixtures &fixtures)
         lookUpByIdentity(fixtures),
         saveOfOneDay(fixtures),
         daysWithJournals(fixtures),
-        parseOfPropertyList(fixtures),
         firstStart(fixtures),
         menuAtStart(fixtures),
         menuWithTenYears(fixtures),

@@ -15,7 +15,6 @@ class Fixtures;
 [[nodiscard]] Workload lookUpByIdentity(Fixtures &fixtures);
 [[nodiscard]] Workload saveOfOneDay(Fixtures &fixtures);
 [[nodiscard]] Workload daysWithJournals(Fixtures &fixtures);
-[[nodiscard]] Workload parseOfPropertyList(Fixtures &fixtures);
 [[nodiscard]] Workload firstStart(Fixtures &fixtures);
 [[nodiscard]] Workload menuOnDisplay(Fixtures &fixtures);
 [[nodiscard]] Workload menuAtStart(Fixtures &fixtures);

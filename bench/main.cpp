@@ -18,7 +18,7 @@ int main(int argc, char **argv)
     QGuiApplication application(argc, argv);
     QCommandLineParser options;
     options.setApplicationDescription(
-        QStringLiteral("Measures the store and the parsers against raw baselines and prints the ratios."));
+        QStringLiteral("Measures the store and the import against raw baselines and prints the ratios."));
     options.addHelpOption();
     const QCommandLineOption filter(QStringLiteral("filter"), QStringLiteral("Only workloads with this in their name."),
                                     QStringLiteral("text"));

@@ -1,5 +1,6 @@
 #include "app/ApplicationServices.h"
 
+#include "platform/AtomicFile.h"
 #include "platform/DesktopNotificationPresenter.h"
 #include "platform/LocalNotificationCenter.h"
 #include "platform/Platform.h"
@@ -19,16 +20,6 @@ namespace
 {
 
 const QString applicationName = QStringLiteral("kesto");
-
-// A folder that is there already keeps its permissions: somebody may have chosen them.
-bool makePrivateFolder(const QString &path)
-{
-    const QFileInfo folder(path);
-    if (folder.exists())
-        return folder.isDir();
-    return QDir().mkpath(folder.absolutePath()) &&
-           folder.absoluteDir().mkdir(folder.fileName(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-}
 
 QString preferredLanguage(const QString &asked, const UserDefaults &defaults)
 {
@@ -53,8 +44,8 @@ std::unique_ptr<ApplicationServices> ApplicationServices::open(const Options &op
 {
     const QString folder = QDir::cleanPath(QFileInfo(options.dataFolder).absoluteFilePath());
     const QString documents = folder + QStringLiteral("/Documents");
-    if (!makePrivateFolder(folder) || !makePrivateFolder(documents)) {
-        *error = QStringLiteral("The data folder %1 can't be made.").arg(folder);
+    if (const Result<void> made = makePrivateFolder(documents); !made) {
+        *error = QStringLiteral("The data folder %1 can't be made: %2.").arg(folder, made.error().reason);
         return nullptr;
     }
     if (!QDir(options.resourcesFolder).exists()) {
@@ -74,6 +65,11 @@ std::unique_ptr<ApplicationServices> ApplicationServices::open(const Options &op
     Clock *clock = options.clock != nullptr ? options.clock : &services->systemClock_;
     RandomSource *random = options.random != nullptr ? options.random : &services->systemRandom_;
     services->userDefaults_ = std::make_unique<UserDefaults>(folder + QStringLiteral("/UserDefaults.plist"));
+    // Without its settings the program would ask for no passcode and begin a new diet.
+    if (const std::optional<Error> unread = services->userDefaults_->readError()) {
+        *error = QStringLiteral("The settings in %1 can't be read: %2.").arg(unread->where, unread->reason);
+        return nullptr;
+    }
     services->strings_ = std::make_unique<StringTables>(options.resourcesFolder,
                                                         preferredLanguage(options.language, *services->userDefaults_));
     services->presenter_ = std::make_unique<DesktopNotificationPresenter>(applicationName);

@@ -10,6 +10,10 @@
 
 #include <memory>
 
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
 namespace
 {
 
@@ -75,6 +79,9 @@ int run(const CommandLine &line)
 
 int main(int argc, char **argv)
 {
+#ifdef Q_OS_UNIX
+    umask(S_IRWXG | S_IRWXO); // everything that the program writes is for its user only
+#endif
     QCoreApplication::setApplicationName(QStringLiteral("kesto"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KESTO_VERSION));
 

@@ -25,6 +25,8 @@ struct Error
         }
         return line;
     }
+
+    bool operator==(const Error &) const = default;
 };
 
 /// The one way to fail: a value, or why there is none.

@@ -1,5 +1,6 @@
 #include "platform/LocalNotificationCenter.h"
 
+#include "platform/AtomicFile.h"
 #include "platform/Clock.h"
 #include "platform/Log.h"
 #include "platform/NotificationPresenter.h"
@@ -58,7 +59,8 @@ LocalNotificationCenter::LocalNotificationCenter(const QString &folder, QString 
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
     connect(&timer_, &QTimer::timeout, this, &LocalNotificationCenter::deliverDue);
-    load();
+    AtomicFile::removeLeftOvers(path_);
+    read_ = load();
     for (const LocalNotification &missed : takeDue())
         presenter_.show(title_, missed.alertBody, missed.defaultSound);
     armTimer();
@@ -104,6 +106,8 @@ void LocalNotificationCenter::setApplicationActive(bool active) { applicationAct
 
 void LocalNotificationCenter::deliverDue()
 {
+    if (!read_ || unsaved_)
+        save();
     const QList<LocalNotification> due = takeDue();
     armTimer();
     for (const LocalNotification &notification : due) {
@@ -133,19 +137,26 @@ QList<LocalNotification> LocalNotificationCenter::takeDue()
 
 void LocalNotificationCenter::armTimer()
 {
-    if (waiting_.isEmpty()) {
+    if (waiting_.isEmpty() && read_ && !unsaved_) {
         timer_.stop();
         return;
     }
-    const qint64 wait = clock_.now().msecsTo(waiting_.constFirst().fireDate);
+    const qint64 wait = waiting_.isEmpty() ? longestWait : clock_.now().msecsTo(waiting_.constFirst().fireDate);
     timer_.start(static_cast<int>(std::clamp<qint64>(wait, 0, longestWait)));
 }
 
-void LocalNotificationCenter::load()
+// Adds what the file holds to what was scheduled before it could be read.
+bool LocalNotificationCenter::load()
 {
-    const QVariantMap content = PropertyList::readOrKeepAside(path_);
-    badgeNumber_ = toBadge(content.value(badgeKey));
-    for (const QVariant &element : content.value(waitingKey).toList()) {
+    const Result<QVariantMap> content = PropertyList::readOrSetAside(path_);
+    if (!content) {
+        log(content.error().message());
+        return false;
+    }
+    if (badgeNumber_ == 0)
+        badgeNumber_ = toBadge(content->value(badgeKey));
+    const QVariantList entries = content->value(waitingKey).toList();
+    for (const QVariant &element : entries) {
         const QVariantMap entry = element.toMap();
         const QVariant fireTime = entry.value(QStringLiteral("fireTime"));
         const QString identifier = entry.value(QStringLiteral("identifier")).toString();
@@ -162,15 +173,22 @@ void LocalNotificationCenter::load()
                          .userInfo = entry.value(QStringLiteral("userInfo")).toMap()});
     }
     std::stable_sort(waiting_.begin(), waiting_.end(), firesEarlier);
+    return true;
 }
 
-// A failure is logged by write(); what waits stays in memory and goes to disk with the next change.
-void LocalNotificationCenter::save() const
+void LocalNotificationCenter::save()
 {
+    unsaved_ = true;
+    if (!read_ && !(read_ = load()))
+        return;
     QVariantList entries;
     for (const LocalNotification &notification : waiting_)
         entries.append(toEntry(notification));
-    (void)PropertyList::write(QVariantMap{{badgeKey, badgeNumber_}, {waitingKey, entries}}, path_);
+    const Result<void> written =
+        PropertyList::write(QVariantMap{{badgeKey, badgeNumber_}, {waitingKey, entries}}, path_);
+    unsaved_ = !written;
+    if (!written)
+        log(written.error().message());
 }
 
 } // namespace kesto

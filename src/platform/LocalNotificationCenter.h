@@ -12,7 +12,8 @@ class NotificationPresenter;
 
 /// Local notifications on systems that have none of their own: kept in "LocalNotifications.plist" in a folder, handed
 /// to a presenter when they come due. Those that came due while the program did not run are presented when the centre
-/// is made. The clock and the presenter outlive it.
+/// is made. While the file can't be read or written, which is logged, the notifications are kept in memory and each
+/// deliverDue() tries again; what the file holds is never overwritten unread. The clock and the presenter outlive it.
 class LocalNotificationCenter final : public LocalNotifications
 {
     Q_OBJECT
@@ -37,8 +38,8 @@ public:
     void deliverDue();
 
 private:
-    void load();
-    void save() const;
+    bool load();
+    void save();
     void armTimer();
     QList<LocalNotification> takeDue();
 
@@ -48,6 +49,8 @@ private:
     NotificationPresenter &presenter_;
     QList<LocalNotification> waiting_; // the earliest first
     int badgeNumber_ = 0;
+    bool read_ = false;    // the file; until then waiting_ lacks what it holds
+    bool unsaved_ = false; // the last save failed
     bool applicationActive_ = false;
     QTimer timer_;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Error.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QVariant>
@@ -16,26 +18,26 @@ namespace kesto
 namespace PropertyList
 {
 
-/// Nothing, and the log line "<source>:<line>: <reason>", when the bytes are no property list.
-[[nodiscard]] std::optional<QVariant> parse(const QByteArray &bytes, const QString &source);
+/// Error::where is "<source>:<line>" when the bytes are no property list.
+[[nodiscard]] Result<QVariant> parse(const QByteArray &bytes, const QString &source);
 
-/// Reads a file; a missing file gives nothing, too, and a log line.
-[[nodiscard]] std::optional<QVariant> read(const QString &path);
+/// Reads a file. AtomicFile::isMissing() tells the error of one that does not exist.
+[[nodiscard]] Result<QVariant> read(const QString &path);
 
 /// The value in the types that parse() gives; nothing when it holds something that a list can't. A float becomes the
 /// double that has the same shortest text, 72.3f for example 72.3.
 [[nodiscard]] std::optional<QVariant> normalized(const QVariant &value);
 
-/// The bytes of a property list; nothing, and a log line, when the value holds something that a list can't.
-[[nodiscard]] std::optional<QByteArray> serialize(const QVariant &value);
+/// The bytes of a property list; an error when the value holds something that a list can't.
+[[nodiscard]] Result<QByteArray> serialize(const QVariant &value);
 
-/// Replaces the file whole, synced to disk, readable and writable by the user only. False, and a log line, on failure;
-/// the old file stays then.
-[[nodiscard]] bool write(const QVariant &value, const QString &path);
+/// Replaces the file as AtomicFile::write() does.
+[[nodiscard]] Result<void> write(const QVariant &value, const QString &path);
 
-/// For files that the program itself writes: the dictionary in the file, empty when there is no file. One that can't be
-/// read as a dictionary is renamed to "<name>.damaged-<n>", which is logged, and the result is empty.
-[[nodiscard]] QVariantMap readOrKeepAside(const QString &path);
+/// The dictionary in a file that only this program writes; empty when there is no file. A file whose content is no
+/// dictionary is renamed to "<name>.damaged-<n>", which is logged, and the result is empty. An error means that the
+/// file is there but can't be read now, or is damaged and can't be renamed: writing would lose its content.
+[[nodiscard]] Result<QVariantMap> readOrSetAside(const QString &path);
 
 } // namespace PropertyList
 

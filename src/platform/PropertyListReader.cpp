@@ -1,5 +1,6 @@
 #include "platform/PropertyList.h"
 
+#include "platform/AtomicFile.h"
 #include "platform/Log.h"
 #include "platform/PropertyListScanner.h"
 #include "platform/Utf8.h"
@@ -290,15 +291,15 @@ private:
     std::unordered_map<std::string, QString, Hash, std::equal_to<>> keys_;
 };
 
-std::nullopt_t refused(const QString &source, qsizetype line, const QString &reason)
+tl::unexpected<Error> refused(const QString &source, qsizetype line, QString reason)
 {
-    log(QStringLiteral("%1:%2: %3").arg(source, QString::number(line), reason));
-    return std::nullopt;
+    return failure(QStringLiteral("cannot read the property list"), source + u':' + QString::number(line),
+                   std::move(reason));
 }
 
 } // namespace
 
-std::optional<QVariant> parse(const QByteArray &bytes, const QString &source)
+Result<QVariant> parse(const QByteArray &bytes, const QString &source)
 {
     const auto lineOf = [&](ptrdiff_t offset) {
         const auto end = bytes.begin() + std::clamp<qsizetype>(offset, 0, bytes.size());
@@ -320,35 +321,38 @@ std::optional<QVariant> parse(const QByteArray &bytes, const QString &source)
     return refused(source, lineOf(reader.fault().offset), reader.fault().reason);
 }
 
-std::optional<QVariant> read(const QString &path)
+Result<QVariant> read(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return refused(path, 1, file.errorString());
-    const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        return refused(path, 1, file.errorString());
-    return parse(bytes, path);
+    const Result<QByteArray> bytes = AtomicFile::read(path);
+    if (!bytes)
+        return tl::unexpected(bytes.error());
+    return parse(*bytes, path);
 }
 
-QVariantMap readOrKeepAside(const QString &path)
+Result<QVariantMap> readOrSetAside(const QString &path)
 {
-    if (!QFile::exists(path))
-        return {};
-    if (const std::optional<QVariant> content = read(path)) {
-        if (content->typeId() == QMetaType::QVariantMap)
-            return content->toMap();
-        refused(path, 1, QStringLiteral("not a dictionary"));
+    const Result<QByteArray> bytes = AtomicFile::read(path);
+    if (!bytes) {
+        if (AtomicFile::isMissing(bytes.error()))
+            return QVariantMap();
+        return tl::unexpected(bytes.error());
     }
+    Result<QVariant> content = parse(*bytes, path);
+    if (content && content->typeId() != QMetaType::QVariantMap)
+        content = refused(path, 1, QStringLiteral("not a dictionary"));
+    if (content)
+        return content->toMap();
+
     int number = 1;
     const auto aside = [&] { return QStringLiteral("%1.damaged-%2").arg(path, QString::number(number)); };
     while (QFile::exists(aside()))
         ++number;
-    if (QFile::rename(path, aside()))
-        log("%@ is damaged and was renamed to %@", path, aside());
-    else
-        log("%@ is damaged and can't be renamed to %@", path, aside());
-    return {};
+    QFile file(path);
+    if (!file.rename(aside()))
+        return failure(QStringLiteral("cannot set the damaged file aside"), path, file.errorString());
+    log(content.error().message());
+    log("%@ is damaged and was renamed to %@", path, aside());
+    return QVariantMap();
 }
 
 } // namespace kesto::PropertyList

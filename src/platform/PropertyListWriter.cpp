@@ -1,21 +1,14 @@
 #include "platform/PropertyList.h"
 
-#include "platform/Log.h"
+#include "platform/AtomicFile.h"
+#include "platform/StringFormat.h"
 
 #include <QDateTime>
-#include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
 
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
-
-#ifdef Q_OS_UNIX
-#include <fcntl.h>
-#include <unistd.h>
-#endif
 
 namespace kesto::PropertyList
 {
@@ -195,30 +188,17 @@ private:
     }
 };
 
-// A renamed file is only there for certain after a power cut when its folder is on disk, too.
-void syncFolder(const QString &path)
-{
-#ifdef Q_OS_UNIX
-    const int folder = ::open(QFile::encodeName(QFileInfo(path).absolutePath()).constData(), O_RDONLY | O_CLOEXEC);
-    if (folder >= 0) {
-        ::fsync(folder);
-        ::close(folder);
-    }
-#else
-    Q_UNUSED(path)
-#endif
-}
-
 } // namespace
 
 std::optional<QVariant> normalized(const QVariant &value) { return normalizedTo(value, 1); }
 
-std::optional<QByteArray> serialize(const QVariant &value)
+Result<QByteArray> serialize(const QVariant &value)
 {
     const std::optional<QVariant> normal = normalized(value);
     if (!normal) {
-        log("A property list can't hold this value of type %@", value.isValid() ? value.typeName() : "nothing");
-        return std::nullopt;
+        return failure(
+            QStringLiteral("cannot write the property list"), {},
+            stringWithFormat("a value of type %@ has no form in it", value.isValid() ? value.typeName() : "nothing"));
     }
     Writer writer;
     writer.bytes = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
@@ -230,21 +210,12 @@ std::optional<QByteArray> serialize(const QVariant &value)
     return writer.bytes;
 }
 
-bool write(const QVariant &value, const QString &path)
+Result<void> write(const QVariant &value, const QString &path)
 {
-    const std::optional<QByteArray> bytes = serialize(value);
+    const Result<QByteArray> bytes = serialize(value);
     if (!bytes)
-        return false;
-    QSaveFile file(path);
-    const bool written = file.open(QIODevice::WriteOnly) &&
-                         file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
-                         file.write(*bytes) == bytes->size() && file.commit(); // commit() syncs before it renames
-    if (!written) {
-        log("%@ can't be written: %@", path, file.errorString());
-        return false;
-    }
-    syncFolder(path);
-    return true;
+        return failure(bytes.error().what, path, bytes.error().reason);
+    return AtomicFile::write(*bytes, path);
 }
 
 } // namespace kesto::PropertyList

@@ -1,8 +1,12 @@
 #include "platform/UserDefaults.h"
 
+#include "platform/AtomicFile.h"
 #include "platform/Log.h"
 #include "platform/PropertyList.h"
 
+#include <QTimer>
+
+#include <chrono>
 #include <cmath>
 #include <limits>
 #include <utility>
@@ -13,11 +17,24 @@ namespace kesto
 UserDefaults::UserDefaults(QString path, QObject *parent)
     : QObject(parent)
     , path_(std::move(path))
-    , stored_(PropertyList::readOrKeepAside(path_))
 {
+    AtomicFile::removeLeftOvers(path_);
+    Result<QVariantMap> content = PropertyList::readOrSetAside(path_);
+    if (content) {
+        stored_ = std::move(*content);
+    } else {
+        readError_ = content.error();
+        log(readError_->message());
+    }
 }
 
 UserDefaults::~UserDefaults() { synchronize(); }
+
+std::optional<Error> UserDefaults::readError() const
+{
+    const std::lock_guard lock(mutex_);
+    return readError_;
+}
 
 void UserDefaults::registerDefaults(const QVariantMap &defaults)
 {
@@ -63,7 +80,9 @@ void UserDefaults::setValue(const QVariant &value, const QString &key)
 void UserDefaults::removeObjectForKey(const QString &key)
 {
     const std::lock_guard lock(mutex_);
-    if (stored_.remove(key) > 0)
+    if (readError_)
+        removedUnread_.insert(key);
+    if (stored_.remove(key) > 0 || readError_)
         changed();
 }
 
@@ -156,23 +175,48 @@ void UserDefaults::setInteger(qint64 value, const QString &key) { setValue(value
 void UserDefaults::setFloat(float value, const QString &key) { setValue(value, key); }
 void UserDefaults::setBool(bool value, const QString &key) { setValue(value, key); }
 
-bool UserDefaults::synchronize()
+Result<void> UserDefaults::synchronize()
 {
     const std::lock_guard write(writing_);
-    QVariantMap snapshot;
-    {
+    Result<void> done;
+    if (readError())
+        done = readAgain();
+    if (done) {
+        QVariantMap snapshot;
+        {
+            const std::lock_guard lock(mutex_);
+            writeRequested_ = false;
+            if (!dirty_)
+                return {};
+            dirty_ = false;
+            snapshot = stored_;
+        }
+        done = PropertyList::write(snapshot, path_);
+    }
+    if (!done) {
+        log(done.error().message());
         const std::lock_guard lock(mutex_);
         writeRequested_ = false;
-        if (!dirty_)
-            return true;
-        dirty_ = false;
-        snapshot = stored_;
+        dirty_ = true;
     }
-    if (PropertyList::write(snapshot, path_))
-        return true;
+    return done;
+}
+
+Result<void> UserDefaults::readAgain()
+{
+    Result<QVariantMap> content = PropertyList::readOrSetAside(path_);
     const std::lock_guard lock(mutex_);
-    dirty_ = true;
-    return false;
+    if (!content) {
+        readError_ = content.error();
+        return tl::unexpected(content.error());
+    }
+    for (const QString &key : std::as_const(removedUnread_))
+        content->remove(key);
+    content->insert(stored_);
+    stored_ = std::move(*content);
+    readError_.reset();
+    removedUnread_.clear();
+    return {};
 }
 
 void UserDefaults::changed()
@@ -181,8 +225,13 @@ void UserDefaults::changed()
     if (std::exchange(writeRequested_, true))
         return;
     // Runs on the thread of this object, whichever thread the change came from; all changes until then go in one write.
-    QMetaObject::invokeMethod(
-        this, [this] { synchronize(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &UserDefaults::writeLater, Qt::QueuedConnection);
+}
+
+void UserDefaults::writeLater()
+{
+    if (!synchronize())
+        QTimer::singleShot(std::chrono::minutes(1), this, &UserDefaults::writeLater);
 }
 
 } // namespace kesto

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "platform/Error.h"
+
 #include <QDateTime>
 #include <QObject>
+#include <QSet>
 #include <QString>
 #include <QVariantMap>
 
@@ -14,15 +17,20 @@ namespace kesto
 /// Settings by key, kept in one property-list file that only the user may read. Absent differs from 0 and from false.
 /// Reading and writing is allowed from every thread. A change is on disk after synchronize(), otherwise soon after the
 /// event loop of its own thread turns and at the latest when the object is destroyed; a file is replaced whole or not
-/// at all.
+/// at all. A write that the event loop started and that failed is tried again every minute.
 class UserDefaults : public QObject
 {
     Q_OBJECT
 public:
     /// Reads the file; one that is not there counts as empty. One that can't be understood is renamed to
-    /// "<name>.damaged-<n>", which is logged, and the settings start empty.
+    /// "<name>.damaged-<n>", which is logged, and the settings start empty. Also removes what a killed process left
+    /// while it wrote the file, which no other process may be using.
     explicit UserDefaults(QString path, QObject *parent = nullptr);
     ~UserDefaults() override;
+
+    /// Set while there is a file whose content could not be read, which is logged: the settings are empty but for what
+    /// was set since then. The file stays as it is until a synchronize() can read it.
+    [[nodiscard]] std::optional<Error> readError() const;
 
     /// Values that apply while a key has none stored; they are never written. Later calls add and replace.
     void registerDefaults(const QVariantMap &defaults);
@@ -50,18 +58,22 @@ public:
     void setFloat(float value, const QString &key);
     void setBool(bool value, const QString &key);
 
-    /// Writes what changed to disk. False, and a log line, when that failed; the values stay in memory and the next
-    /// call tries again.
-    bool synchronize();
+    /// Writes what changed to disk. An error is also logged; the values stay in memory and the next call tries again.
+    /// If the file could not be read so far, reads it first; what was set or removed meanwhile replaces its values.
+    Result<void> synchronize(); // NOLINT(modernize-use-nodiscard): most callers have nobody to tell
 
 private:
     void changed();
+    void writeLater();
+    Result<void> readAgain();
 
     const QString path_;
     std::mutex writing_;       // one write at a time; taken before mutex_
     mutable std::mutex mutex_; // guards what follows; never held while the disk works
     QVariantMap stored_;
     QVariantMap registered_;
+    std::optional<Error> readError_;
+    QSet<QString> removedUnread_; // while readError_ is set
     bool dirty_ = false;
     bool writeRequested_ = false;
 };

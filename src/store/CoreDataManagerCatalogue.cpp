@@ -5,6 +5,7 @@
 #include "model/DishesCategory.h"
 #include "model/Ingredient.h"
 #include "model/Lookup.h"
+#include "platform/Log.h"
 #include "platform/Platform.h"
 #include "platform/PropertyList.h"
 #include "store/CoreDataManager.h"
@@ -100,7 +101,11 @@ bool CoreDataManager::saveRecipesToPlist()
         }
         recipes.append(recipe);
     }
-    return PropertyList::write(recipes, platform_.documentsFolder() + QStringLiteral("/recipes.plist"));
+    const Result<void> written =
+        PropertyList::write(recipes, platform_.documentsFolder() + QStringLiteral("/recipes.plist"));
+    if (!written)
+        log(written.error().message());
+    return written.has_value();
 }
 
 } // namespace kesto

@@ -1,5 +1,6 @@
 #include "util/SKHelpManager.h"
 
+#include "platform/AtomicFile.h"
 #include "platform/Clock.h"
 #include "platform/KeyValueCoding.h"
 #include "platform/Log.h"
@@ -7,7 +8,6 @@
 #include "platform/PropertyList.h"
 #include "platform/TextOrder.h"
 
-#include <QFile>
 #include <QHash>
 #include <QLocale>
 
@@ -24,10 +24,13 @@ namespace
 std::optional<QVariant> contentOf(const QString &name, QMetaType::Type type)
 {
     const QString path = Platform::current().resourcesFolder() + u'/' + name + QStringLiteral(".plist");
-    if (!QFile::exists(path))
+    const Result<QVariant> content = PropertyList::read(path);
+    if (!content) {
+        if (!AtomicFile::isMissing(content.error()))
+            log(content.error().message());
         return std::nullopt;
-    std::optional<QVariant> content = PropertyList::read(path);
-    return content && content->typeId() == type ? std::move(content) : std::nullopt;
+    }
+    return content->typeId() == type ? std::optional(*content) : std::nullopt;
 }
 
 QVariant valueOf(const QVariant &item, const QString &key)

@@ -83,6 +83,16 @@ TEST_F(ApplicationServicesTest, SaysWhatIsWrongWithAFolder)
     EXPECT_TRUE(error_.contains(QStringLiteral("resources"))) << error_.toStdString();
 }
 
+TEST_F(ApplicationServicesTest, RefusesToStartWithoutSettingsThatAreThere)
+{
+    const QString settings = root_.filePath(QStringLiteral("data/UserDefaults.plist"));
+    ASSERT_TRUE(QDir().mkpath(settings)); // a folder cannot be read as a file
+    EXPECT_EQ(open(root_.filePath(QStringLiteral("data"))), nullptr);
+    EXPECT_TRUE(error_.contains(settings)) << error_.toStdString();
+    ASSERT_TRUE(QDir().rmdir(settings));
+    EXPECT_NE(open(root_.filePath(QStringLiteral("data"))), nullptr);
+}
+
 TEST_F(ApplicationServicesTest, TheLanguageIsAskedForElseChosenElseTheSystems)
 {
     const QString folder = root_.filePath(QStringLiteral("data"));

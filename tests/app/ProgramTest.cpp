@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QDirIterator>
 #include <QElapsedTimer>
 #include <QImage>
 #include <QProcess>
@@ -102,6 +103,10 @@ TEST(ProgramTest, ASecondStartOnOneFolderIsRefused)
            !waited.hasExpired(60'000))
         QThread::msleep(50);
     ASSERT_TRUE(first.isRunning()) << first.errors().toStdString();
+    QDirIterator files(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (files.hasNext())
+        EXPECT_FALSE(QFile::permissions(files.next()) & (QFile::ReadOther | QFile::ReadGroup))
+            << files.filePath().toStdString();
     ProgramRun second(arguments);
     EXPECT_EQ(second.exitCode(), 1);
     EXPECT_TRUE(second.errors().contains(folder)) << second.errors().toStdString();

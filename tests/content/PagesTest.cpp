@@ -34,7 +34,7 @@ QStringList tipsOf(Language language)
 {
     const QString path = ShippedContent::folderOf(language) + u'/' + textFor(language, QStringLiteral("tips plist")) +
                          QStringLiteral(".plist");
-    const std::optional<QVariant> tips = PropertyList::read(path);
+    const Result<QVariant> tips = PropertyList::read(path);
     EXPECT_TRUE(tips && tips->typeId() == QMetaType::QVariantList) << path.toStdString();
     return tips ? tips->toStringList() : QStringList();
 }

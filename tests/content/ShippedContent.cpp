@@ -16,7 +16,7 @@ namespace
 
 QVariantList arrayOf(const QString &name)
 {
-    const std::optional<QVariant> content =
+    const Result<QVariant> content =
         PropertyList::read(ShippedContent::folder() + u'/' + name + QStringLiteral(".plist"));
     EXPECT_TRUE(content && content->typeId() == QMetaType::QVariantList) << name.toStdString();
     return content ? content->toList() : QVariantList();

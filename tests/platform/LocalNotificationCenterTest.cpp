@@ -3,6 +3,7 @@
 #include "support/FakeClock.h"
 #include "support/LogCapture.h"
 #include "support/RecordingNotifications.h"
+#include "support/ResourceLimit.h"
 
 #include <gtest/gtest.h>
 
@@ -17,6 +18,7 @@ using namespace kesto;
 using kesto::test::FakeClock;
 using kesto::test::LogCapture;
 using kesto::test::RecordingPresenter;
+using kesto::test::ResourceLimit;
 
 namespace
 {
@@ -229,6 +231,36 @@ TEST_F(LocalNotificationCenterTest, SurvivesADamagedFileAndAFolderThatIsGone)
     schedule(u"unsaved"_qs, 30);
     EXPECT_EQ(waiting(), (QStringList{u"unsaved"_qs, u"good"_qs}));
     EXPECT_EQ(capture.take().size(), 1);
+}
+
+TEST_F(LocalNotificationCenterTest, AddsToAFileThatCouldNotBeReadAtTheStart)
+{
+    center_->setApplicationIconBadgeNumber(3);
+    schedule(u"old"_qs, 60);
+    center_.reset();
+    LogCapture capture;
+    {
+        const ResourceLimit noDescriptors(RLIMIT_NOFILE, 0);
+        start();
+        schedule(u"new"_qs, 30);
+        center_->deliverDue();
+        EXPECT_EQ(waiting(), QStringList{u"new"_qs});
+        EXPECT_EQ(capture.take().size(), 3);
+    }
+    center_->deliverDue();
+    EXPECT_EQ(waiting(), (QStringList{u"new"_qs, u"old"_qs}));
+    restart();
+    EXPECT_EQ(waiting(), (QStringList{u"new"_qs, u"old"_qs}));
+    EXPECT_EQ(center_->applicationIconBadgeNumber(), 3);
+
+    // A failed save is tried again without another change.
+    {
+        const ResourceLimit full(RLIMIT_FSIZE, 0);
+        schedule(u"unsaved"_qs, 90);
+    }
+    center_->deliverDue();
+    restart();
+    EXPECT_EQ(waiting(), (QStringList{u"new"_qs, u"old"_qs, u"unsaved"_qs}));
 }
 
 } // namespace

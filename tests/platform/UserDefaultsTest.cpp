@@ -1,6 +1,7 @@
 #include "platform/UserDefaults.h"
 #include "platform/PropertyList.h"
 #include "support/LogCapture.h"
+#include "support/ResourceLimit.h"
 
 #include <gtest/gtest.h>
 
@@ -10,11 +11,13 @@
 #include <QTemporaryDir>
 
 #include <limits>
+#include <optional>
 #include <thread>
 #include <vector>
 
 using namespace kesto;
 using kesto::test::LogCapture;
+using kesto::test::ResourceLimit;
 
 namespace
 {
@@ -193,6 +196,37 @@ TEST_F(UserDefaultsTest, ANewFolderOrFileThatFailsIsTriedAgain)
     EXPECT_TRUE(defaults.synchronize());
     EXPECT_EQ(capture.take(), QStringList());
     EXPECT_EQ(UserDefaults(path).integerForKey(u"kIdealWidth"_qs), 60);
+}
+
+TEST_F(UserDefaultsTest, AFileThatCannotBeReadNowIsNotOverwritten)
+{
+    ASSERT_TRUE(PropertyList::write(QVariantMap{{u"kept"_qs, 1}, {u"changed"_qs, 1}, {u"removed"_qs, 1}}, path_));
+    const QByteArray before = bytesOf(path_);
+    LogCapture capture;
+    std::optional<ResourceLimit> noDescriptors(std::in_place, RLIMIT_NOFILE, 0);
+    UserDefaults defaults(path_);
+    EXPECT_TRUE(defaults.readError());
+    defaults.setInteger(2, u"changed"_qs);
+    defaults.setInteger(2, u"removed"_qs);
+    defaults.removeObjectForKey(u"removed"_qs);
+    EXPECT_FALSE(defaults.synchronize());
+    EXPECT_EQ(capture.lines().size(), 2);
+    noDescriptors.reset();
+    EXPECT_EQ(bytesOf(path_), before);
+
+    EXPECT_TRUE(defaults.synchronize());
+    EXPECT_FALSE(defaults.readError());
+    EXPECT_EQ(defaults.integerForKey(u"kept"_qs), 1);
+    EXPECT_EQ(*PropertyList::read(path_), QVariant(QVariantMap{{u"kept"_qs, 1}, {u"changed"_qs, 2}}));
+}
+
+TEST_F(UserDefaultsTest, RemovesWhatAKilledWriteLeft)
+{
+    for (const char16_t *ending : {u"", u".abcDEF", u".damaged-1"})
+        ASSERT_TRUE(PropertyList::write(QVariantMap{{u"a"_qs, 1}}, path_ + QString::fromUtf16(ending)));
+    EXPECT_EQ(UserDefaults(path_).integerForKey(u"a"_qs), 1);
+    EXPECT_FALSE(QFile::exists(path_ + u".abcDEF"_qs));
+    EXPECT_TRUE(QFile::exists(path_ + u".damaged-1"_qs));
 }
 
 TEST_F(UserDefaultsTest, RefusesOtherTypes)
