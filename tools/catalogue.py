@@ -12,11 +12,16 @@ import os
 import plistlib
 import re
 import sys
+
+sys.dont_write_bytecode = True  # the sources may be read-only
+
 from dataclasses import dataclass, field
 from pathlib import Path
 from typing import Dict, List, Optional, Tuple
 
-# folder, prefix of the dish identifiers, Russian and English name; in display order
+import catalogue_rules as rules
+
+# Folder, prefix of the dish identifiers, Russian and English name; in display order
 CATEGORIES = (
     ("0-salads", "sal", "Салаты", "Salads"),
     ("1-starters", "sta", "Закуски и бутерброды", "Starters and Sandwiches"),
@@ -32,49 +37,23 @@ PHASES = "0123"
 PHASE_NAMES = ("Attack", "Cruise", "Consolidation", "Stabilization")
 KINDS = ("0", "1", "2", "3")
 PHASE_SETS = ("0123", "123", "23", "3")
-TOLERATED = 2
-MAX_TOLERATED = 2
+USES = ("amount", "taste", "note")
 MAX_SERVINGS = 24
-MAX_SENTENCE_DIFFERENCE = 2
+VOCABULARIES = ("products.txt", "free.txt", "units.txt", "pieces.txt", "tolerated.txt")
 
-# the largest quantity of a unit that one dish may ask for
+# The largest quantity of a unit that one dish may ask for
 MAX_QUANTITY = {
     "g": 2000, "kg": 3, "ml": 3000, "l": 3, "cm": 30, "pcs": 60, "tbsp": 20, "tsp": 12, "pinch": 6, "drop": 40,
     "clove": 20, "slice": 40, "bunch": 5, "sprig": 20, "leaf": 60, "stalk": 20, "head": 5, "can": 6, "sachet": 6,
 }
+METRIC = ("g", "kg", "ml", "l", "cm")
+FRACTIONS = {"0": "", "25": "¼", "5": "½", "75": "¾"}
 
 SINGLE_FIELDS = ("nameRU", "nameENG", "serves")
 BLOCK_FIELDS = ("ingredients", "recipeRU", "recipeENG")
 
 KEY = re.compile(r"[a-z][a-z0-9]*(-[a-z0-9]+)*")
 NUMBER = re.compile(r"(0|[1-9]\d*)(\.\d*[1-9])?")
-FOREIGN = {"ru": re.compile(r"[A-Za-zÀ-ɏ]+"), "en": re.compile(r"[А-Яа-яЁё]+")}
-SENTENCE_END = re.compile(r"\. ")
-TEMPERATURE = re.compile(r"(\d+(?:[.,]\d+)?)(?:[–-](\d+(?:[.,]\d+)?))? ?°C")
-NAME_FAULTS = (
-    (re.compile(r"^-| - "), "hyphen between blanks or at the begin"),
-    (re.compile(r"^[^A-ZА-ЯЁ\d]"), "no upper-case first letter"),
-    (re.compile(r"[.,;:!?–—-]$"), "trailing punctuation"),
-    (re.compile(r"\s{2,}"), "double blank"),
-    (re.compile(r"\b(\w+) \1\b", re.IGNORECASE), "doubled word"),
-)
-TEXT_FAULTS = (
-    (re.compile(r"\s{2,}"), "double blank"),
-    (re.compile(r"[.,;:]{2,}"), "double punctuation"),
-    (re.compile(r"[!?…]"), "a sentence ends with a full stop only"),
-    (re.compile(r"\s[.,;:)»]"), "blank before punctuation"),
-    (re.compile(r"[(«]\s"), "blank after an opening bracket or quote"),
-    (re.compile(r"[,;:](?=[^\s\d])"), "no blank after punctuation"),
-    (re.compile(r"\.(?=[^\s\d)»”\"])"), "no blank after a full stop"),
-    (re.compile(r"\. (?![A-ZА-ЯЁ\d«“\"])"), "no upper-case letter after a full stop"),
-    (re.compile(r"\d°C"), "no blank before °C"),
-    (re.compile(r"°(?!C)"), "° is followed by a Latin C"),
-    (re.compile(r"[^.]$"), "no full stop at the end"),
-    (re.compile(r"^[^A-ZА-ЯЁ\d«“\"]"), "no upper-case first letter"),
-    (re.compile(r"\b(ст|ч|мин|сек|шт|гр|т|др|пр|напр|прибл)\.", re.IGNORECASE), "abbreviation"),
-    (re.compile(r"\b(tbsp|tsp|approx|mins?|secs?|etc|ca|oz|e\.g|i\.e)\.", re.IGNORECASE), "abbreviation"),
-)
-BRACKETS = (("(", ")"), ("«", "»"), ("“", "”"))
 
 
 class Faults:
@@ -94,21 +73,34 @@ class Product:
     names: Dict[str, str]
     kind: Optional[int] = None
     phases: str = PHASES
+    use: str = "amount"
+    pieces: Optional[List[str]] = None  # what English calls one and several of them
+    portion: Optional[Tuple[float, str]] = None  # of a tolerated product: quantity and unit
+
+
+@dataclass
+class Unit:
+    key: str
+    forms: List[str]  # Russian one, few, many; English one, many
 
 
 @dataclass
 class Ingredient:
     product: Product
     quantity: Optional[str]
-    unit: Optional[List[str]]
+    unit: Optional[Unit]
 
     def text(self, language: str) -> str:
-        name = self.product.names[language]
-        if self.quantity is None:
-            return name + (" - по вкусу" if language == "ru" else " - to taste")
+        """The line that the program shows. The shopping list takes what precedes " - ", and ignores a note."""
+        name = ("- " if self.product.use == "note" else "") + self.product.names[language]
+        if self.quantity is None or self.unit is None:
+            taste = " - по вкусу" if language == "ru" else " - to taste"
+            return name + (taste if self.product.use == "taste" else "")
+        number = amount(self.quantity, self.unit.key, language)
         if language == "ru":
-            return f"{name} - {self.quantity.replace('.', ',')} {self.unit[russian_form(self.quantity)]}"
-        return f"{name} - {self.quantity} {self.unit[3 if self.quantity == '1' else 4]}"
+            return f"{name} - {number} {self.unit.forms[russian_form(self.quantity)]}"
+        forms = self.product.pieces if self.unit.key == "pcs" and self.product.pieces else self.unit.forms[3:]
+        return f"{name} - {number} {forms[0 if float(self.quantity) <= 1 else 1]}"
 
 
 @dataclass
@@ -151,13 +143,21 @@ class Dish:
 
 
 def russian_form(number: str) -> int:
-    """0, 1 or 2: the one, few or many form after the number; a decimal fraction takes few."""
+    """0, 1 or 2: the one, few or many form after the number; a fraction takes few."""
     if "." in number:
         return 1
     value = int(number)
     if value // 10 % 10 == 1:
         return 2
     return {1: 0, 2: 1, 3: 1, 4: 1}.get(value % 10, 2)
+
+
+def amount(quantity: str, unit: str, language: str) -> str:
+    """A quantity as people write it: 1,5 (1.5 in English) in metric units, 1½ in all others."""
+    whole, _, fraction = quantity.partition(".")
+    if unit not in METRIC and fraction in FRACTIONS:
+        return (whole if whole != "0" else "") + FRACTIONS[fraction]
+    return quantity.replace(".", ",") if language == "ru" else quantity
 
 
 def read_lines(path: Path, faults: Faults) -> List[Tuple[int, str]]:
@@ -169,25 +169,6 @@ def read_lines(path: Path, faults: Faults) -> List[Tuple[int, str]]:
         return []
     lines = enumerate(text.split("\n"), 1)
     return [(number, line.rstrip()) for number, line in lines if line.strip() and not line.startswith("#")]
-
-
-def style_faults(text: str, language: str, rules: Tuple) -> List[str]:
-    """What is wrong with a name or a recipe text by the given rules."""
-    if not text:
-        return ["empty text"]
-    reasons = []
-    for pattern, reason in rules + ((FOREIGN[language], "letters of the other language"),):
-        found = pattern.search(text.replace("°C", "°") if pattern is FOREIGN[language] else text)
-        if found:
-            reasons.append(f"{reason}: …{text[max(0, found.start() - 15):found.end() + 15]}…")
-    if any(text.count(opening) != text.count(closing) for opening, closing in BRACKETS):
-        reasons.append("unbalanced brackets or quotes")
-    return reasons
-
-
-def temperatures(text: str) -> List[str]:
-    found = (value for pair in TEMPERATURE.findall(text) for value in pair if value)
-    return sorted(value.replace(",", ".") for value in found)
 
 
 def read_table(path: Path, columns: int, faults: Faults) -> List[Tuple[int, List[str]]]:
@@ -212,24 +193,48 @@ def read_products(source: Path, faults: Faults) -> Dict[str, Product]:
     """All products and free things by key, in file order."""
     products: Dict[str, Product] = {}
     taken = set()
-    for path, columns in ((source / "products.txt", 5), (source / "free.txt", 3)):
+    for path, columns in ((source / "products.txt", 5), (source / "free.txt", 4)):
         for number, cells in read_table(path, columns, faults):
             key, names = cells[0], {"ru": cells[-2], "en": cells[-1]}
             if columns == 5 and (cells[1] not in KINDS or cells[2] not in PHASE_SETS):
                 faults.add(path, number, f"unknown kind or phases: {cells[1]} {cells[2]}")
                 continue
+            if columns == 4 and cells[1] not in USES:
+                faults.add(path, number, f"unknown use: {cells[1]}")
+                continue
             if key in products:
                 faults.add(path, number, f"duplicate key {key}")
             for language, name in names.items():
-                for reason in style_faults(name, language, NAME_FAULTS):
+                for reason in rules.style_faults(name, language, rules.NAME_FAULTS):
                     faults.add(path, number, reason)
                 if "," in name:
                     faults.add(path, number, f"comma in a name: {name}")
                 if (language, name.casefold()) in taken:
                     faults.add(path, number, f"duplicate name: {name}")
                 taken.add((language, name.casefold()))
-            products[key] = Product(key, names, int(cells[1]), cells[2]) if columns == 5 else Product(key, names)
+            products[key] = (Product(key, names, int(cells[1]), cells[2]) if columns == 5
+                             else Product(key, names, use=cells[1]))
+    read_details(source, products, faults)
     return products
+
+
+def read_details(source: Path, products: Dict[str, Product], faults: Faults) -> None:
+    """Adds the names of pieces and the portions of tolerated products."""
+    for name in ("pieces.txt", "tolerated.txt"):
+        path = source / name
+        for number, (key, first, second) in read_table(path, 3, faults):
+            product = products.get(key)
+            if product is None:
+                faults.add(path, number, f"unknown product {key}")
+            elif name == "pieces.txt":
+                product.pieces = [first, second]
+            elif product.kind != rules.TOLERATED or not NUMBER.fullmatch(first) or second not in rules.GRAMS:
+                faults.add(path, number, "a tolerated product, a number and a unit that is no count expected")
+            else:
+                product.portion = (float(first), second)
+    for product in products.values():
+        if product.kind == rules.TOLERATED and product.portion is None:
+            faults.add(source / "tolerated.txt", 1, f"missing product {product.key}")
 
 
 def read_fields(path: Path, faults: Faults) -> Dict[str, Block]:
@@ -267,13 +272,15 @@ class Reader:
         self.source = source
         self.faults = Faults()
         self.products = read_products(source, self.faults)
-        self.units = {cells[0]: cells[1:] for _, cells in read_table(source / "units.txt", 6, self.faults)}
+        self.units = {cells[0]: Unit(cells[0], cells[1:])
+                      for _, cells in read_table(source / "units.txt", 6, self.faults)}
         self.taken_names: Dict[Tuple[str, str], str] = {}
+        self.measured: Dict[str, Dict[str, str]] = {}  # by product: the units and the first dish that has each
         self.dishes = self.read_dishes()
 
     def read_dishes(self) -> List[Dish]:
         dishes = []
-        known = {category[0] for category in CATEGORIES} | {"products.txt", "free.txt", "units.txt"}
+        known = {category[0] for category in CATEGORIES} | set(VOCABULARIES)
         for path in sorted(self.source.glob("*")):
             if path.name not in known:
                 self.faults.add(path, 1, "does not belong to the catalogue")
@@ -294,31 +301,23 @@ class Reader:
         texts = {"ru": fields["recipeRU"], "en": fields["recipeENG"]}
         for language in names:
             self.check_name(path, names[language], language)
-            for reason in style_faults(texts[language].text(), language, TEXT_FAULTS):
-                self.faults.add(path, texts[language].line, reason)
-        self.compare_texts(path, texts)
         serves = fields["serves"]
         if not re.fullmatch(r"[1-9]\d?", serves.value) or int(serves.value) > MAX_SERVINGS:
             self.faults.add(path, serves.line, f"number of servings not from 1 to {MAX_SERVINGS}: {serves.value}")
             return None
         ingredients = self.read_ingredients(path, fields["ingredients"])
-        return Dish(path.stem, category, {key: block.value for key, block in names.items()}, int(serves.value),
+        dish = Dish(path.stem, category, {key: block.value for key, block in names.items()}, int(serves.value),
                     {key: block.text() for key, block in texts.items()}, ingredients)
+        for name, reason in rules.dish_faults(dish):
+            self.faults.add(path, fields[name].line, reason)
+        return dish
 
     def check_name(self, path: Path, block: Block, language: str) -> None:
-        for reason in style_faults(block.value, language, NAME_FAULTS):
+        for reason in rules.style_faults(block.value, language, rules.NAME_FAULTS):
             self.faults.add(path, block.line, reason)
         other = self.taken_names.setdefault((language, block.value.casefold()), path.stem)
         if other != path.stem:
             self.faults.add(path, block.line, f"the name of {other}, too: {block.value}")
-
-    def compare_texts(self, path: Path, texts: Dict[str, Block]) -> None:
-        russian, english = texts["ru"].text(), texts["en"].text()
-        counts = [len(SENTENCE_END.findall(text)) + 1 for text in (russian, english)]
-        if abs(counts[0] - counts[1]) > MAX_SENTENCE_DIFFERENCE:
-            self.faults.add(path, texts["en"].line, f"{counts[0]} Russian and {counts[1]} English sentences")
-        if temperatures(russian) != temperatures(english):
-            self.faults.add(path, texts["en"].line, "temperatures of the two languages differ")
 
     def read_ingredients(self, path: Path, block: Block) -> List[Ingredient]:
         ingredients = []
@@ -328,13 +327,22 @@ class Reader:
                 self.faults.add(path, number, f"{reason} ({line})")
             if ingredient and any(item.product is ingredient.product for item in ingredients):
                 self.faults.add(path, number, f"duplicate product {ingredient.product.key}")
+            if ingredient and ingredient.unit:
+                self.check_unit(path, number, ingredient.product, ingredient.unit.key)
             ingredients += [ingredient] if ingredient else []
         if all(item.product.kind is None for item in ingredients):
             self.faults.add(path, block.line, "no product")
-        tolerated = [item.product.key for item in ingredients if item.product.kind == TOLERATED]
-        if len(tolerated) > MAX_TOLERATED:
-            self.faults.add(path, block.line, f"more than {MAX_TOLERATED} tolerated products: {' '.join(tolerated)}")
         return ingredients
+
+    def check_unit(self, path: Path, number: int, product: Product, unit: str) -> None:
+        """A product is measured alike in all dishes, and what is counted in pieces has an English name for them."""
+        if unit == "pcs" and product.pieces is None:
+            self.faults.add(path, number, f"{product.key} is not in pieces.txt")
+        units = self.measured.setdefault(product.key, {})
+        for other, dish in units.items():
+            if rules.clash(unit, other):
+                self.faults.add(path, number, f"{product.key} is measured by {unit} here and by {other} in {dish}")
+        units.setdefault(unit, path.stem)
 
     def read_ingredient(self, line: str) -> Tuple[Optional[Ingredient], str]:
         """The ingredient of a line, and what is wrong with the line or an empty text."""
@@ -343,7 +351,7 @@ class Reader:
         if product is None:
             return None, "unknown product"
         if len(cells) == 1:
-            return Ingredient(product, None, None), "" if product.kind is None else "no quantity"
+            return Ingredient(product, None, None), "no quantity" if product.use == "amount" else ""
         if len(cells) != 3:
             return None, "an ingredient is a key, or a key, a number and a unit"
         quantity, unit = cells[1:]
