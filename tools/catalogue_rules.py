@@ -36,12 +36,12 @@ HEATED = set("""
 SHELL_EGGS = {"egg", "quail-egg", "egg-white"}
 
 
-def every(*rules: Tuple[str, str]) -> Tuple[Rule, ...]:
+def ignoring_case(*rules: Tuple[str, str]) -> Tuple[Rule, ...]:
     return tuple((re.compile(pattern, re.IGNORECASE), reason) for pattern, reason in rules)
 
 
 FOREIGN = {"ru": re.compile(r"[A-Za-zÀ-ɏ]+"), "en": re.compile(r"[А-Яа-яЁё]+")}
-LEFTOVERS = every(
+LEFTOVERS = ignoring_case(
     (r"\b(\w+)\s+\1\b", "doubled word"),
     (r"todo|fixme|lorem|\bxxx|\?\?|[_{}<>|*#@=\[\]\\]|\.\.|…|\bnan\b|\bnull\b", "leftover"),
     (r"\d-\d|\s-\s|\"", "dash or quote of a typewriter"),
@@ -66,7 +66,7 @@ TEXT_FAULTS = LEFTOVERS + (
     (re.compile(r"°(?!C)"), "° is followed by a Latin C"),
     (re.compile(r"[^.]$"), "no full stop at the end"),
     (re.compile(r"^[^A-ZА-ЯЁ\d«“\"]"), "no upper-case first letter"),
-) + every(
+) + ignoring_case(
     (r"\b(ст|ч|мин|сек|шт|гр|т|др|пр|напр|прибл)\.", "abbreviation"),
     (r"\b(tbsp|tsp|approx|mins?|secs?|etc|ca|oz|e\.g|i\.e)\.", "abbreviation"),
     (r"\bнареза\w+ (двумя|тремя|четырьмя|\w*(пятью|шестью|семью|восемью|девятью|десятью|дцатью)) ",
@@ -75,7 +75,7 @@ TEXT_FAULTS = LEFTOVERS + (
     (r"\d(?![\d.,]*\d)(?!–)(?! ?°C)(?! (?:на|by|x) \d)(?! [a-zа-яё])(?!-[a-zа-яё])", "number without a unit"),
 )
 LANGUAGE_FAULTS = {
-    "ru": every(
+    "ru": ignoring_case(
         (r"\d (?:и|или|до|при|пока|а|чтобы|затем|с|в)\b", "number without a unit"),
         (r"\b(?:при|до) \d{2,3}(?!\d|–| ?[°а-яё])", "number without a unit"),
         (r"\d\.\d", "decimal point"),
@@ -85,7 +85,7 @@ LANGUAGE_FAULTS = {
         (r"\bсыр(ой|ого|ую|ым|ыми) (фарш|кури|свини|индейк|печен)", "unsafe"),
         (r"лечит|исцел|сжигает жир|детокс|гарантир", "medical claim"),
     ),
-    "en": every(
+    "en": ignoring_case(
         (r"\d (?:and|or|to|at|until|then|with|so|for|in)\b(?! each| all)", "number without a unit"),
         (r"\b(?:at|to) \d{2,3}(?!\d|–| ?[°a-z])", "number without a unit"),
         (r"\d,\d", "decimal comma"),

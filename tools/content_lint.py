@@ -23,7 +23,7 @@ import catalogue  # noqa: E402
 import catalogue_rules  # noqa: E402
 
 BASE = "ru"  # the language that the others are compared with
-FOREIGN = {"ru": re.compile(r"[A-Za-z]{2,}"), "en": re.compile(r"[Ѐ-ԯ]")}
+FOREIGN = {"ru": re.compile(r"[A-Za-z]{2,}|[Ѐ-ԯ][A-Za-z]|[A-Za-z][Ѐ-ԯ]"), "en": re.compile(r"[Ѐ-ԯ]")}
 # Names of resources, codes and proper names may be in Latin letters; each language is named in itself.
 LATIN_IN_RUSSIAN = re.compile(r"iCloud|App Store|Facebook|nameRU|ingredientsRU|recipeRU|\w*_ru|%ld|E-mail")
 OWN_NAMES = ("Русский",)
