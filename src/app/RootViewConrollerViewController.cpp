@@ -82,8 +82,12 @@ void RootViewConrollerViewController::viewWillAppear()
 // The detail side of a tablet is never empty; a phone has a screen in the centre already.
 void RootViewConrollerViewController::openFirstSection()
 {
-    if (enclosing<SplitViewController>() == nullptr)
-        return;
+    if (enclosing<SplitViewController>() != nullptr)
+        openHome();
+}
+
+void RootViewConrollerViewController::openHome()
+{
     openRow(defaults().valueForKey(Keys::kStartDietDateKey).isValid() ? calendarRow : calculatorRow);
 }
 

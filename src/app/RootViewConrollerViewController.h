@@ -27,6 +27,7 @@ public:
 
     void openDetailViewController(std::unique_ptr<ViewController> controller) override;
     void openCalendar() override { openRow(calendarRow); }
+    void openHome() override;
 
     [[nodiscard]] int numberOfRowsInSection(int section) const override;
     [[nodiscard]] TableRow cellForRow(const IndexPath &path) const override;

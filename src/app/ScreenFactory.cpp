@@ -2,6 +2,7 @@
 
 #include "app/PlainViewController.h"
 #include "app/RootViewConrollerViewController.h"
+#include "journal/JornalTabBarController.h"
 #include "plan/CalculatorViewController.h"
 #include "plan/CalendarContainerViewController.h"
 #include "plan/DietDayDetailViewController.h"
@@ -41,10 +42,9 @@ Screen makeDay(const QDateTime &date, int period, DietDayDetailViewControllerDel
     return std::make_unique<DietDayDetailViewController>(date, period, delegate);
 }
 
-Screen makeJornal(const QDateTime &)
-{
-    return std::make_unique<PlainViewController>(localized(QStringLiteral("Дневник Диеты")), QStringLiteral("7.png"));
-}
+Screen makeJornal(const QDateTime &date) { return JornalHelper::jornalTabBarVCForDate(date); }
+
+Screen makeJornalForToday(RootViewConrollerViewController &) { return JornalHelper::jornalTabBarVCForToday(); }
 
 Screen makeCalendar(RootViewConrollerViewController &)
 {
@@ -75,7 +75,7 @@ constexpr std::array screens{
     Entry{ScreenName::Calculator, u"Калькулятор веса по Кесто", u"4.png", makeCalculator},
     Entry{ScreenName::Graph, u"График контроля веса", u"5.png"},
     Entry{ScreenName::Calendar, u"Календарь диеты", u"6.png", makeCalendar, calendarContainer},
-    Entry{ScreenName::JornalForToday, u"Дневник Диеты", u"7.png"},
+    Entry{ScreenName::JornalForToday, u"Дневник Диеты", u"7.png", makeJornalForToday},
     Entry{ScreenName::Cart, u"Список покупок", u"8.png", makeCart},
     Entry{ScreenName::Favorites, u"Избранные рецепты", u"9.png", makeFavorites},
     Entry{ScreenName::SendDish, u"Отправить рецепт", u"10.png"},

@@ -23,6 +23,8 @@ public:
     virtual void openDetailViewController(std::unique_ptr<ViewController> controller) = 0;
     /// The same with the diet's calendar, as if it was chosen in the menu.
     virtual void openCalendar() = 0;
+    /// The same with the screen that the program starts with.
+    virtual void openHome() = 0;
 
 protected:
     Shell()

@@ -77,17 +77,19 @@ QTime Calendar::timeOf(const QDateTime &instant) const
     return instant.isValid() ? localClock(zone_, instant).time() : QTime();
 }
 
-QDateTime Calendar::startOfDay(QDate day) const
+QDateTime Calendar::startOfDay(QDate day) const { return firstInstant(day, QTime(0, 0)); }
+
+QDateTime Calendar::firstInstant(QDate day, QTime time) const
 {
-    if (!day.isValid())
+    if (!day.isValid() || !time.isValid())
         return {};
-    const Resolved midnight = resolve(zone_, asLocal(day, QTime(0, 0)));
-    if (!midnight.skipped)
-        return fromUtc(midnight.utc);
+    const Resolved wanted = resolve(zone_, asLocal(day, time));
+    if (!wanted.skipped)
+        return fromUtc(wanted.utc);
     // The gap ends at some second in (utc − gap, utc]: find the first one that has the later offset.
-    qint64 low = (midnight.utc - midnight.gapLength) / msecsPerSec;
-    qint64 high = midnight.utc / msecsPerSec;
-    const qint64 later = offsetAt(zone_, midnight.utc);
+    qint64 low = (wanted.utc - wanted.gapLength) / msecsPerSec;
+    qint64 high = wanted.utc / msecsPerSec;
+    const qint64 later = offsetAt(zone_, wanted.utc);
     while (high - low > 1) {
         const qint64 middle = low + (high - low) / 2;
         (offsetAt(zone_, middle * msecsPerSec) == later ? high : low) = middle;

@@ -32,6 +32,9 @@ public:
     /// that they show twice the first is meant.
     [[nodiscard]] QDateTime instant(QDate day, QTime time) const;
 
+    /// The same, but a time that the clocks skip becomes the first instant after the gap.
+    [[nodiscard]] QDateTime firstInstant(QDate day, QTime time) const;
+
     /// The first day of the week that holds the day.
     [[nodiscard]] QDate firstDayOfWeek(QDate day) const;
 

@@ -63,6 +63,7 @@ public:
         calendar = std::make_unique<CalendarViewController>();
         calendar->loadViewIfNeeded();
     }
+    void openHome() override { openCalendar(); }
 
     std::unique_ptr<CalendarViewController> calendar;
 };

@@ -128,6 +128,7 @@ public:
     {
         detail = std::make_unique<NavigationController>(std::move(controller));
     }
+    void openHome() override {}
     void openCalendar() override {}
 
     std::unique_ptr<NavigationController> detail;

@@ -1,0 +1,1 @@
+#include "journal/FoodBalanceRootViewController.h"
