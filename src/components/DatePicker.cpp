@@ -27,6 +27,13 @@ QStringList numbers(int from, int count, int step = 1, int digits = 1)
     return result;
 }
 
+QStringList withUnit(QStringList numbers, const QString &unit)
+{
+    for (QString &number : numbers)
+        number += u' ' + unit;
+    return numbers;
+}
+
 QStringList monthNames()
 {
     const QLocale locale(Platform::current().strings().preferredLanguage());
@@ -91,7 +98,8 @@ void DatePicker::turnWheels()
     }
     case Mode::CountDownTimer: {
         const int inMinutes = duration_ / secondsPerMinute;
-        setContent({numbers(0, hoursPerDay), minutes},
+        setContent({withUnit(numbers(0, hoursPerDay), localized(QStringLiteral("ч."))),
+                    withUnit(minutes, localized(QStringLiteral("мин.")))},
                    {inMinutes / minutesPerHour, inMinutes % minutesPerHour / minuteInterval_});
         break;
     }

@@ -1,14 +1,23 @@
 #include "journal/WaterVals.h"
 
 #include "platform/Platform.h"
+#include "platform/StringFormat.h"
+#include "platform/StringTables.h"
 #include "platform/UserDefaults.h"
 #include "store/Keys.h"
 
-#include <algorithm>
-#include <limits>
-
 namespace kesto
 {
+
+namespace
+{
+
+constexpr double largestVolume = 100'000;
+constexpr int millilitresPerLitre = 1000;
+
+bool isShown(int key) { return key >= 1 && key <= waterPortionCount; }
+
+} // namespace
 
 QVariantMap defultsWaterVals()
 {
@@ -19,18 +28,6 @@ QVariantMap defultsWaterVals()
     return portions;
 }
 
-namespace
-{
-
-int volumeOf(const QVariant &stored)
-{
-    const double volume = stored.toDouble();
-    // What is no number compares false.
-    return volume > 0 ? static_cast<int>(std::min<double>(volume, std::numeric_limits<int>::max())) : 0;
-}
-
-} // namespace
-
 QVariantMap waterValsDict()
 {
     const QVariant stored = Platform::current().userDefaults().valueForKey(Keys::kWaterWalskey);
@@ -39,12 +36,39 @@ QVariantMap waterValsDict()
 
 QList<int> waterValsArray()
 {
+    const QVariantMap portions = waterValsDict();
     QList<int> volumes;
-    for (const QVariant &stored : waterValsDict())
-        volumes.append(volumeOf(stored));
+    for (auto portion = portions.begin(); portion != portions.end(); ++portion)
+        volumes.append(waterVolume(portions, portion.key()));
     return volumes;
 }
 
-int waterVolume(const QVariantMap &portions, int key) { return volumeOf(portions.value(QString::number(key))); }
+int waterVolume(const QVariantMap &portions, const QString &key)
+{
+    bool isNumber = false;
+    const double volume = portions.value(key).toDouble(&isNumber);
+    return isNumber && volume >= 0 && volume <= largestVolume ? static_cast<int>(volume) : 0;
+}
+
+int waterVolume(const QVariantMap &portions, int key) { return waterVolume(portions, QString::number(key)); }
+
+QString waterVolumeText(int millilitres)
+{
+    return stringWithFormat("%@ %@", millilitres, localized(QStringLiteral("мл.")));
+}
+
+QString waterPortionTitle(int millilitres)
+{
+    if (millilitres == 0 || millilitres % millilitresPerLitre != 0)
+        return waterVolumeText(millilitres);
+    return stringWithFormat(" %ld %@", millilitres / millilitresPerLitre, localized(QStringLiteral("л.")));
+}
+
+QString waterPortionImage(int key)
+{
+    return isShown(key) ? stringWithFormat("water_%ld", key) : QStringLiteral("button_water");
+}
+
+QString waterPortionName(int key) { return isShown(key) ? localized(waterPortionImage(key)) : QString(); }
 
 } // namespace kesto

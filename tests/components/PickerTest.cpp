@@ -98,7 +98,7 @@ TEST_F(PickerTest, ASpanIsNeverNothing)
     picker.components().at(0)->select(0);
     picker.components().at(1)->select(0);
     EXPECT_EQ(picker.countDownDuration(), 60);
-    EXPECT_EQ(shown(picker), QStringLiteral("0 01"));
+    EXPECT_EQ(shown(picker), QStringLiteral("0 ч. 01 мин."));
 }
 
 } // namespace kesto::test

@@ -17,6 +17,8 @@ public:
 
     QString scheduleLocalNotification(LocalNotification notification) override
     {
+        if (refusing_)
+            return {};
         notification.identifier = QString::number(++lastIdentifier_);
         waiting_.append(notification);
         std::stable_sort(waiting_.begin(), waiting_.end(),
@@ -31,6 +33,8 @@ public:
     [[nodiscard]] int applicationIconBadgeNumber() const override { return badgeNumber_; }
     void setApplicationIconBadgeNumber(int number) override { badgeNumber_ = number; }
 
+    /// From now on it takes no notification, like a system that the user forbade to show any.
+    void refuse() { refusing_ = true; }
     /// The earliest fires now, whatever its date; there is one.
     void fireFirst() { Q_EMIT didReceive(waiting_.takeFirst()); }
 
@@ -38,6 +42,7 @@ private:
     QList<LocalNotification> waiting_;
     int badgeNumber_ = 0;
     int lastIdentifier_ = 0;
+    bool refusing_ = false;
 };
 
 /// Remembers what it should have shown.
