@@ -6,6 +6,7 @@
 #include "platform/UserDefaults.h"
 #include "store/Keys.h"
 #include "tour/TourGuide.h"
+#include "tour/TourStopsBalance.h"
 #include "tour/TourStopsCart.h"
 #include "tour/TourStopsPlan.h"
 #include "tour/TourStopsRecipes.h"
@@ -46,6 +47,7 @@ QList<TourStop> tourStops()
         {QStringLiteral("graph"), row(5)},
         {QStringLiteral("journal"), row(7)},
     };
+    stops += balanceTourStops();
     stops += productTourStops();
     stops += catalogueTourStops();
     stops += dishTourStops();

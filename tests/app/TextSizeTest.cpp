@@ -1,8 +1,14 @@
 #include "app/WindowFixture.h"
 #include "components/AlertCenter.h"
 #include "components/BKPasscodeLockScreenManager.h"
+#include "components/Shell.h"
 #include "components/SideMenuContainer.h"
 #include "components/Window.h"
+#include "journal/FoodBalanceRootViewController.h"
+#include "journal/JornalHelper.h"
+#include "journal/JornalTabBarController.h"
+#include "journal/TimerViewController.h"
+#include "journal/WaterBalanceRootViewController.h"
 #include "platform/Platform.h"
 #include "platform/StringTables.h"
 #include "platform/UserDefaults.h"
@@ -160,6 +166,35 @@ TEST_P(TextSizeTest, TheCalendar)
 {
     ASSERT_NO_FATAL_FAILURE(open(20));
     expectReadable(*container().centerViewController());
+}
+
+TEST_P(TextSizeTest, WaterProteinAndTimer)
+{
+    ASSERT_NO_FATAL_FAILURE(open(3));
+    auto opened = JornalHelper::jornalTabBarVCForToday();
+    JornalTabBarController &jornal = *opened;
+    Shell::current()->openDetailViewController(std::move(opened));
+    jornal.water()->picker()->touch(8);
+    jornal.protein()->meatButtonTouched(3);
+    auto &timer = dynamic_cast<TimerViewController &>(*jornal.viewControllers().at(JornalTabBarController::TimerTab));
+    for (const int tab :
+         {JornalTabBarController::WaterTab, JornalTabBarController::ProteinTab, JornalTabBarController::TimerTab}) {
+        jornal.setSelectedIndex(tab);
+        settle();
+        expectReadable(*jornal.viewControllers().at(tab));
+    }
+    timer.start();
+    timer.updateControls();
+    settle();
+    expectReadable(item(*program_->view().contentItem(),
+                        [&timer](const QQuickItem &each) {
+                            return each.property("controller").value<ViewController *>() == &timer;
+                        }),
+                   2);
+    jornal.setSelectedIndex(JornalTabBarController::WaterTab);
+    jornal.water()->actionButtonTouched(WaterBalanceRootViewController::VolumeAction);
+    settle();
+    expectReadable(*jornal.water()->presentedViewController());
 }
 
 /// The smallest windows: no word of what asks is lost, nor is one of its buttons.

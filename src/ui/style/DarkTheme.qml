@@ -33,6 +33,7 @@ Theme {
     trackOff: "#454d45"
     knob: "#ffffff"
     today: "#82bd54"
+    water: "#5a93bb"
     photoLine: "#d4d4d4"
 
     shades: ["#28352a", "#363025", "#392c27", "#372a2a", "#343024", "#372a32", "#393124", "#25323a", "#2e2c3a", "#2c312c"]

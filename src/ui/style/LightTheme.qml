@@ -28,6 +28,7 @@ Theme {
     trackOff: "#d7ddd6"
     knob: "#ffffff"
     today: "#82bd54"
+    water: "#7fb2d6"
     photoLine: "#d4d4d4"
 
     shades: ["#e2efdf", "#f5ecdc", "#f8e6de", "#f2e3e2", "#f3ebd4", "#f4e3ec", "#f9ecd4", "#dfecf3", "#e7e6f2", "#eaedea"]

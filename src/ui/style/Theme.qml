@@ -38,6 +38,7 @@ QtObject {
     required property color trackOff
     required property color knob
     required property color today
+    required property color water
     required property color photoLine
 
     // Behind and on the drawings that stand for photos, one a category of dishes, and one for all others

@@ -72,6 +72,16 @@ QtObject {
     readonly property int largestKey: 76
     readonly property int smallestKey: 44
     readonly property int shakeWidth: 12
+    // The journal's tiles, its drop and its dial
+    readonly property int tileWidth: Math.round(80 * pictureScale)
+    readonly property int smallestTile: Math.round(64 * pictureScale)
+    readonly property int tilePicture: Math.round(32 * pictureScale)
+    readonly property int dropWidth: 132
+    readonly property int dialSize: 260
+    readonly property int dialThickness: 12
+    readonly property int barThickness: 10
+    /*! The colours of water among those of the categories. */
+    readonly property int waterShade: 7
 
     // Pictures grow with the text, but less
     readonly property real pictureScale: 1 + (textScale - 1) * 0.5
@@ -104,6 +114,7 @@ QtObject {
     readonly property int textTitle: Math.round(Styllesheet.barTitleSize * textScale)
     readonly property int textLarge: Math.round(22 * textScale)
     readonly property int textHuge: Math.round(34 * textScale)
+    readonly property int textDial: Math.round(56 * textScale)
 
     // Motion
     readonly property int quick: Appearance.motion ? 120 : 0
