@@ -3,6 +3,8 @@
 #include "BaselineDatabase.h"
 
 #include "import/SQLiteParser.h"
+#include "journal/FoodBalanceRootViewController.h"
+#include "journal/JornalHelper.h"
 #include "model/Dish.h"
 #include "model/DishesCategory.h"
 #include "platform/Clock.h"
@@ -26,7 +28,7 @@
 #include <QQuickWindow>
 #include <QTemporaryDir>
 
-#include <optional>
+#include <memory>
 
 namespace kesto::bench
 {
@@ -57,7 +59,7 @@ struct GridScene::Parts
     SystemClock clock;
     SystemRandomSource random;
     Platform platform;
-    std::optional<DishesViewController> controller;
+    std::unique_ptr<ViewController> controller;
     Appearance appearance;
     QQmlEngine engine;
     QImage image;
@@ -82,24 +84,54 @@ void giveAllDishesTo(int index)
         dish->setDishCategory(category);
 }
 
-} // namespace
+/// What fills a scene.
+struct Filling
+{
+    std::unique_ptr<ViewController> controller;
+    QString view;
+    QString grid; ///< the name of what scrolls in it
+    int count = 0;
+};
 
-GridScene::GridScene(const QSize &size)
-    : parts_(std::make_unique<Parts>(size))
+Filling dishes()
 {
     giveAllDishesTo(0);
-    parts_->controller.emplace(0);
+    auto screen = std::make_unique<DishesViewController>(0);
+    const int count = screen->tiles()->count();
+    return {std::move(screen), QStringLiteral("recipes/DishesView"), QStringLiteral("tiles"), count};
+}
+
+Filling foods()
+{
+    const QDateTime today = Calendar().startOfDay(QDate::currentDate());
+    auto screen = std::make_unique<FoodBalanceRootViewController>(JornalHelper::dietDayForDate(today));
+    screen->loadViewIfNeeded();
+    const QList<JornalButton *> buttons = screen->meatButtons();
+    for (const JornalButton *button : buttons)
+        screen->meatButtonTouched(button->tag());
+    return {std::move(screen), QStringLiteral("journal/FoodBalanceRootView"), QStringLiteral("foods"),
+            static_cast<int>(buttons.size())};
+}
+
+} // namespace
+
+GridScene::GridScene(Content content, const QSize &size)
+    : parts_(std::make_unique<Parts>(size))
+{
+    Filling filling = content == Content::Dishes ? dishes() : foods();
+    parts_->controller = std::move(filling.controller);
+    count_ = filling.count;
     UserInterface::prepare(parts_->engine, parts_->platform);
     giveTo(parts_->engine, parts_->appearance);
     parts_->appearance.setMotion(false);
 
-    QQmlComponent component(&parts_->engine, QUrl(QStringLiteral("qrc:/qt/qml/Kesto/recipes/DishesView.qml")));
+    QQmlComponent component(&parts_->engine, QUrl(QStringLiteral("qrc:/qt/qml/Kesto/%1.qml").arg(filling.view)));
     QObject *made = component.createWithInitialProperties(
-        {{QStringLiteral("controller"), QVariant::fromValue(&*parts_->controller)}});
+        {{QStringLiteral("controller"), QVariant::fromValue(parts_->controller.get())}});
     parts_->view.reset(qobject_cast<QQuickItem *>(made));
     if (parts_->view == nullptr)
         fail(component.errorString());
-    parts_->grid = parts_->view->findChild<QQuickItem *>(QStringLiteral("tiles"));
+    parts_->grid = parts_->view->findChild<QQuickItem *>(filling.grid);
     parts_->window.setGeometry(0, 0, size.width(), size.height());
     parts_->window.contentItem()->setSize(size);
     parts_->view->setParentItem(parts_->window.contentItem());
@@ -109,8 +141,6 @@ GridScene::GridScene(const QSize &size)
 }
 
 GridScene::~GridScene() = default;
-
-int GridScene::dishCount() const { return parts_->controller->tiles()->count(); }
 
 double GridScene::length() const { return parts_->grid->property("contentHeight").toDouble() - parts_->grid->height(); }
 

@@ -7,17 +7,22 @@
 namespace kesto::bench
 {
 
-/// The grid of a category that has every dish of the shipped catalogue, in a window without a screen that the software
-/// renderer draws into an image. One at a time.
+/// A grid in a window without a screen that the software renderer draws into an image. One at a time.
 class GridScene
 {
 public:
-    explicit GridScene(const QSize &size);
+    enum class Content {
+        Dishes, ///< of a category that has every dish of the shipped catalogue
+        Foods   ///< those that protein is counted of, each eaten once, and the list of what was eaten
+    };
+
+    GridScene(Content content, const QSize &size);
     ~GridScene();
     GridScene(const GridScene &) = delete;
     GridScene &operator=(const GridScene &) = delete;
 
-    [[nodiscard]] int dishCount() const;
+    /// Its tiles.
+    [[nodiscard]] int count() const { return count_; }
     /// How far the grid can be scrolled.
     [[nodiscard]] double length() const;
     void scrollTo(double position);
@@ -28,6 +33,7 @@ public:
 
 private:
     struct Parts;
+    int count_ = 0;
     std::unique_ptr<Parts> parts_;
 };
 

@@ -14,17 +14,18 @@ namespace
 
 constexpr int kFrames = 1000;
 constexpr int kLeastDishes = 300;
+constexpr int kFoods = 40;
 
-/// Down to the last dish and back to the first, as fast as a finger throws the grid.
+/// Down to the last tile and back to the first, as fast as a finger throws the grid.
 class Scroll final : public Trial
 {
 public:
-    Scroll(const QSize &size, std::vector<double> &samples)
-        : scene_(size)
+    Scroll(GridScene::Content content, int leastTiles, const QSize &size, std::vector<double> &samples)
+        : scene_(content, size)
         , samples_(samples)
     {
-        if (scene_.dishCount() < kLeastDishes)
-            fail(QStringLiteral("the catalogue is too small"));
+        if (scene_.count() < leastTiles)
+            fail(QStringLiteral("the grid has too few tiles"));
         before_ = scene_.checksum();
     }
     void run() override
@@ -49,11 +50,12 @@ private:
     quint64 before_ = 0;
 };
 
-Workload scroll(const char *name, const QSize &size)
+Workload scroll(const char *name, const QSize &size, GridScene::Content content = GridScene::Content::Dishes,
+                int leastTiles = kLeastDishes)
 {
     auto samples = std::make_shared<std::vector<double>>();
     return {.name = name,
-            .contenders = {{"ours", [samples, size] { return std::make_unique<Scroll>(size, *samples); }}},
+            .contenders = {{"ours", [=] { return std::make_unique<Scroll>(content, leastTiles, size, *samples); }}},
             .bars = {{Bar::Kind::Share99AtMost, 16.6e6}, {Bar::Kind::LongestAtMost, 50e6}},
             .items = kFrames,
             .mostRounds = 3,
@@ -70,6 +72,12 @@ Workload scrollOnPhone()
 Workload scrollOnTablet()
 {
     return scroll("grid scroll on a tablet: 1,000 frames over the whole catalogue", QSize(820, 1136));
+}
+
+Workload scrollOfFoods()
+{
+    return scroll("scroll of the forty foods on a phone: 1,000 frames, each food eaten", QSize(390, 744),
+                  GridScene::Content::Foods, kFoods);
 }
 
 } // namespace kesto::bench

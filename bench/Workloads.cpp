@@ -23,6 +23,7 @@ std::vector<Workload> allWorkloads(Fixtures &fixtures)
         monthChange(fixtures),
         scrollOnPhone(),
         scrollOnTablet(),
+        scrollOfFoods(),
     };
     if (ChildProcess::hasDisplay())
         all.push_back(menuOnDisplay(fixtures));

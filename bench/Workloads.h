@@ -22,6 +22,7 @@ class Fixtures;
 [[nodiscard]] Workload monthChange(Fixtures &fixtures);
 [[nodiscard]] Workload scrollOnPhone();
 [[nodiscard]] Workload scrollOnTablet();
+[[nodiscard]] Workload scrollOfFoods();
 
 /// All of them, in the order of the table. A new workload is a function above, a file, and a line in there.
 [[nodiscard]] std::vector<Workload> allWorkloads(Fixtures &fixtures);
