@@ -106,7 +106,7 @@ public:
     explicit OurIdentity(Fixtures &fixtures)
         : file_(fixtures, fixtures.diaryFile())
         , store_(file_.path())
-        , days_(store_.context().fetch<DietDay>())
+        , days_(store_.context().fetchOrLog<DietDay>())
     {
         std::mt19937 random(11); // NOLINT: the same keys in every run
         for (int i = 0; i < kIdentityLookUps; ++i)

@@ -76,9 +76,8 @@ std::vector<DishInput> makeDishes(Texts &texts)
 
 void mustSave(ManagedObjectContext &context)
 {
-    StoreError error;
-    if (!context.save(&error))
-        fail(error.description);
+    if (const auto saved = context.save(); !saved)
+        fail(saved.error().message());
 }
 
 } // namespace
@@ -149,9 +148,8 @@ FileCopy::~FileCopy()
 OpenStore::OpenStore(const QString &path)
     : coordinator_(std::make_unique<PersistentStoreCoordinator>(dietModel()))
 {
-    StoreError error;
-    if (!coordinator_->addPersistentStore(path, {}, &error))
-        fail(error.description);
+    if (const auto added = coordinator_->addPersistentStore(path, {}); !added)
+        fail(added.error().message());
     renewContext();
 }
 

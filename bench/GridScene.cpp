@@ -80,7 +80,7 @@ void giveAllDishesTo(int index)
     SQLiteParser::parse();
     qInstallMessageHandler(before);
     DishesCategory *category = manager.dishesCategoryForIndex(index);
-    for (Dish *dish : manager.managedObjectContext()->fetch<Dish>())
+    for (Dish *dish : manager.managedObjectContext()->fetchOrLog<Dish>())
         dish->setDishCategory(category);
 }
 
@@ -104,7 +104,7 @@ Filling dishes()
 Filling foods()
 {
     const QDateTime today = Calendar().startOfDay(QDate::currentDate());
-    auto screen = std::make_unique<FoodBalanceRootViewController>(JornalHelper::dietDayForDate(today));
+    auto screen = std::make_unique<FoodBalanceRootViewController>(*JornalHelper::dietDayForDate(today));
     screen->loadViewIfNeeded();
     const QList<JornalButton *> buttons = screen->meatButtons();
     for (const JornalButton *button : buttons)

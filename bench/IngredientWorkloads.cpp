@@ -48,7 +48,7 @@ public:
         lines_.clear();
         store_.renewContext();
     }
-    void run() override { lines_ = store_.context().fetch<Ingredient>(); }
+    void run() override { lines_ = store_.context().fetchOrLog<Ingredient>(); }
     quint64 checksum() override
     {
         Checksum checksum;
@@ -121,7 +121,7 @@ public:
         Checksum checksum;
         FetchRequest request;
         request.relationshipKeyPathsForPrefetching = {"ingredientsRU", "ingredientsENG"};
-        for (const Dish *dish : store_.context().fetch<Dish>(request)) {
+        for (const Dish *dish : store_.context().fetchOrLog<Dish>(request)) {
             checksum.add(dish->objectID());
             for (const Ingredient *line : dish->ingredientsRU())
                 checksum.add(line->objectID()).add(static_cast<qint64>(line->name().size()));

@@ -45,7 +45,7 @@ private:
         request.sortDescriptors = {{"date", true}};
         request.relationshipKeyPathsForPrefetching = {"jornalDay.timeRows"};
         Checksum checksum;
-        for (const DietDay *day : store_.context().fetch<DietDay>(request)) {
+        for (const DietDay *day : store_.context().fetchOrLog<DietDay>(request)) {
             checksum.add(day->objectID()).add(day->weight()).add(day->chB());
             const JornalDay *journal = day->jornalDay();
             checksum.add(journal->objectID()).add(journal->sportDay()).add(journal->meatSportActivity());

@@ -113,6 +113,8 @@ void RootViewConrollerViewController::openRow(int row)
         return;
     }
     std::unique_ptr<ViewController> screen = ScreenFactory::make(chosen.screen, *this);
+    if (screen == nullptr)
+        return; // a journal that cannot be read
     if (chosen.opens == Opens::OnMenuStack) {
         if (chosen.titled)
             screen->setTitle(titleOf(chosen));

@@ -13,7 +13,7 @@ IngredientReplacement::IngredientReplacement(ManagedObjectContext &context)
 {
     FetchRequest purchases;
     purchases.relationshipKeyPathsForPrefetching = {"ingredient"};
-    for (PurhaseIngredient *purchase : context.fetch<PurhaseIngredient>(purchases)) {
+    for (PurhaseIngredient *purchase : context.fetchOrLog<PurhaseIngredient>(purchases)) {
         if (Ingredient *line = purchase->ingredient())
             purchases_[line].push_back(purchase);
     }

@@ -73,14 +73,14 @@ std::vector<Dish *> loadCatalogue(ManagedObjectContext &context)
     everything.relationshipKeyPathsForPrefetching = {"dishCategory", "ingredientsRU", "ingredientsENG",
                                                      "ingredientsRU.purchaseIngredient",
                                                      "ingredientsENG.purchaseIngredient"};
-    return context.fetch<Dish>(everything);
+    return context.fetchOrLog<Dish>(everything);
 }
 
-void saveImport(ManagedObjectContext &context)
+/// Something could not be read: going on would make dishes and categories a second time.
+void endWithoutImport(ManagedObjectContext &context)
 {
-    StoreError error;
-    if (!context.save(&error))
-        log("error while saving context - %@", error.description);
+    context.rollback();
+    log(QStringLiteral("end parsing"));
 }
 
 const QString kIdMarker = QStringLiteral("ID\":\"");
@@ -130,21 +130,27 @@ void SQLiteParser::parse()
     for (const QVariant &element : recipes) {
         const QVariantMap record = element.toMap();
         const QString dishID = text(record, "dishID");
-        Dish &dish = Dish::dishWithID(dishID, context);
+        const auto found = Dish::dishWithID(dishID, context);
+        const auto category =
+            DishesCategory::dishCategoryWirhRusName(text(record, "catRU"), text(record, "catENG"), context);
+        if (!found || !category) {
+            endWithoutImport(context);
+            return;
+        }
+        Dish &dish = **found;
         dish.setNameRU(text(record, "nameRU"));
         dish.setNameENG(text(record, "nameENG"));
         dish.setDietPeriod(text(record, "dietPeriod"));
         dish.setDishID(dishID);
         dish.setRecipeENG(text(record, "recipeENG"));
         dish.setRecipeRU(text(record, "recipeRU"));
-        dish.setDishCategory(
-            &DishesCategory::dishCategoryWirhRusName(text(record, "catRU"), text(record, "catENG"), context));
+        dish.setDishCategory(*category);
         replacement.removeLines(dish);
         addLines(context, record.value(QStringLiteral("ingredientsRU")).toList(), dish, &Dish::addIngredientsRU);
         addLines(context, record.value(QStringLiteral("ingredientsENG")).toList(), dish, &Dish::addIngredientsENG);
         replacement.relinkPurchases(dish);
     }
-    saveImport(context);
+    context.saveOrKeepChanges();
     log(QStringLiteral("end parsing"));
 }
 
@@ -184,22 +190,28 @@ void SQLiteParser::oldParse()
     IngredientReplacement replacement(context);
     for (const QVariant &element : std::as_const(records)) {
         const QVariantMap record = element.toMap();
-        Dish &dish = Dish::dishWithID(text(record, "ID"), context);
+        const auto found = Dish::dishWithID(text(record, "ID"), context);
+        const auto category =
+            DishesCategory::dishCategoryWirhRusName(text(record, "Category"), text(record, "CategoryEng"), context);
+        if (!found || !category) {
+            endWithoutImport(context);
+            return;
+        }
+        Dish &dish = **found;
         replacement.removeLines(dish);
         dish.setNameRU(text(record, "ProdName"));
         dish.setNameENG(text(record, "ProdNameEng"));
         dish.setDietPeriod(shiftedPeriod(text(record, "ProdCat")));
         dish.setRecipeENG(text(record, "ProdTxtEng"));
         dish.setRecipeRU(text(record, "ProdTxt"));
-        dish.setDishCategory(
-            &DishesCategory::dishCategoryWirhRusName(text(record, "Category"), text(record, "CategoryEng"), context));
+        dish.setDishCategory(*category);
         addIngredientsToDish(&dish, record.value(QStringLiteral("Ingred")).toStringList(), QStringLiteral("dishRU"),
                              context);
         addIngredientsToDish(&dish, record.value(QStringLiteral("IngredEng")).toStringList(), QStringLiteral("dishENG"),
                              context);
         replacement.relinkPurchases(dish);
     }
-    saveImport(context);
+    context.saveOrKeepChanges();
     log(QStringLiteral("end parsing"));
 }
 

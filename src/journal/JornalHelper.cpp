@@ -38,7 +38,8 @@ struct JornalHelper::Registry
 
 std::unique_ptr<JornalTabBarController> JornalHelper::jornalTabBarVCForDate(const QDateTime &date)
 {
-    return std::make_unique<JornalTabBarController>(dietDayForDate(mn_beginningOfDay(date)));
+    DietDay *day = dietDayForDate(mn_beginningOfDay(date));
+    return day != nullptr ? std::make_unique<JornalTabBarController>(*day) : nullptr;
 }
 
 std::unique_ptr<JornalTabBarController> JornalHelper::jornalTabBarVCForToday()
@@ -46,12 +47,12 @@ std::unique_ptr<JornalTabBarController> JornalHelper::jornalTabBarVCForToday()
     return jornalTabBarVCForDate(Platform::current().clock().now());
 }
 
-DietDay &JornalHelper::dietDayForDate(const QDateTime &date)
+DietDay *JornalHelper::dietDayForDate(const QDateTime &date)
 {
     ManagedObjectContext &context = *CoreDataManager::sharedManager().managedObjectContext();
-    DietDay &day = DietDay::dietDatWithDate(date, context);
-    if (day.jornalDay() == nullptr) {
-        day.setJornalDay(&context.insert<JornalDay>());
+    DietDay *day = DietDay::dietDatWithDate(date, context).value_or(nullptr);
+    if (day != nullptr && day->jornalDay() == nullptr) {
+        day->setJornalDay(&context.insert<JornalDay>());
         context.saveOrKeepChanges();
     }
     return day;
@@ -104,8 +105,13 @@ void JornalHelper::step(int days)
 
 void JornalHelper::goToDate(const QDateTime &date)
 {
+    DietDay *there = dietDayForDate(date);
+    if (there == nullptr)
+        return;
     deallocCurrentDay();
-    dietDay_ = &dietDayForDate(date);
+    dietDay_ = there->isDeleted() ? dietDayForDate(date) : there; // the same day may have been left empty
+    if (dietDay_ == nullptr)
+        return;
     date_ = date;
     Q_EMIT dateChanged();
     for (JornalTableViewController *screen : screens_) {

@@ -23,12 +23,13 @@ class JornalHelper : public QObject
     Q_OBJECT
     Q_PROPERTY(QString dateText READ dateText NOTIFY dateChanged)
 public:
-    /// The journal of the day that holds a moment, with its schedule in front.
+    /// The journal of the day that holds a moment, with its schedule in front. Null when the store cannot be read.
     [[nodiscard]] static std::unique_ptr<JornalTabBarController> jornalTabBarVCForDate(const QDateTime &date);
     [[nodiscard]] static std::unique_ptr<JornalTabBarController> jornalTabBarVCForToday();
 
-    /// The day of exactly this instant with a journal; what is missing is made and saved at once.
-    [[nodiscard]] static DietDay &dietDayForDate(const QDateTime &date);
+    /// The day of exactly this instant with a journal; what is missing is made and saved at once. Null when the store
+    /// cannot be read.
+    [[nodiscard]] static DietDay *dietDayForDate(const QDateTime &date);
 
     /// The time of day as hours.minutes: 18:30 is 18.3. The same in every locale: where the user's clock reads 6:30 PM,
     /// or writes other digits, this is the time of a clock of 24 hours, so that the records of a day sort by time.

@@ -105,7 +105,7 @@ void WaterBalanceRootViewController::readIntake()
         done.predicate = attribute("joranlDay") == day && attribute("compleate") == true;
         done.sortDescriptors = {{"time"}};
         done.relationshipKeyPathsForPrefetching = {"timeObjects"};
-        content_ = waterIntake(context().fetch<TimeRow>(done), day->waterObjects());
+        content_ = waterIntake(context().fetchOrLog<TimeRow>(done), day->waterObjects());
     }
     setCurrentValue(waterDrunk(content_, portions_));
 }
@@ -119,7 +119,7 @@ std::optional<float> WaterBalanceRootViewController::weight() const
     latest.predicate = !attribute("weight").isAbsent();
     latest.sortDescriptors = {{"date", false}};
     latest.fetchLimit = 1;
-    const std::vector<DietDay *> found = context().fetch<DietDay>(latest);
+    const std::vector<DietDay *> found = context().fetchOrLog<DietDay>(latest);
     return found.empty() ? std::nullopt : found.front()->weight();
 }
 

@@ -43,17 +43,19 @@ void DietDay::removeDishes(DishInDietDay &object) { removeFromMany(0, &object); 
 
 DietDay *DietDay::dayWithoutCreation(const QDateTime &date, ManagedObjectContext &inManagedObjectContext)
 {
-    return lastMatch<DietDay>(inManagedObjectContext, attribute("date") == date);
+    return lastMatchOrLog<DietDay>(inManagedObjectContext, attribute("date") == date, "dayWithoutCreation")
+        .value_or(nullptr);
 }
 
-DietDay &DietDay::dietDatWithDate(const QDateTime &date, ManagedObjectContext &inManagedObjectContext)
+Result<DietDay *> DietDay::dietDatWithDate(const QDateTime &date, ManagedObjectContext &inManagedObjectContext)
 {
-    if (DietDay *known = dayWithoutCreation(date, inManagedObjectContext))
-        return *known;
+    auto known = lastMatchOrLog<DietDay>(inManagedObjectContext, attribute("date") == date, "dietDatWithDate");
+    if (!known || *known != nullptr)
+        return known;
     auto &day = inManagedObjectContext.insert<DietDay>();
     day.setDate(date);
     inManagedObjectContext.saveOrKeepChanges();
-    return day;
+    return &day;
 }
 
 bool DietDay::isEmpty() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Error.h"
 #include "platform/objectgraph/ManagedObject.h"
 
 #include <vector>
@@ -22,10 +23,14 @@ public:
     }
     [[nodiscard]] static EntityDescription description();
 
-    /// The day of exactly this instant; a new one is saved at once.
-    static DietDay &dietDatWithDate(const QDateTime &date, ManagedObjectContext &inManagedObjectContext);
-    /// The day of exactly this instant, or null.
-    static DietDay *dayWithoutCreation(const QDateTime &date, ManagedObjectContext &inManagedObjectContext);
+    /// The day of exactly this instant; a new one is saved at once. An error, which was logged, when it could not be
+    /// looked up: a second day of the same instant would hide the first one.
+    [[nodiscard]] static Result<DietDay *> dietDatWithDate(const QDateTime &date,
+                                                           ManagedObjectContext &inManagedObjectContext);
+    /// The day of exactly this instant; null when there is none or, with a line in the log, when it could not be looked
+    /// up.
+    [[nodiscard]] static DietDay *dayWithoutCreation(const QDateTime &date,
+                                                     ManagedObjectContext &inManagedObjectContext);
 
     /// No kind, no weight, no girth but the biceps, and no journal. A value of 0 counts as present; the biceps and the
     /// planned dishes do not count.

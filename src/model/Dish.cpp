@@ -13,6 +13,27 @@
 namespace kesto
 {
 
+namespace
+{
+
+constexpr int kNameRU = 1;
+
+/// The string table of each language names the attribute that holds its names.
+int displayNameSlot(const EntityDescription &entity)
+{
+    const QString key = localized(QStringLiteral("nameKey"));
+    const auto isText = [&](const std::optional<PropertyReference> &property) {
+        return property && property->kind == PropertyReference::Kind::Attribute &&
+               entity.attributes()[static_cast<size_t>(property->slot)].type == AttributeType::String;
+    };
+    if (const auto named = entity.property(key.toStdString()); isText(named))
+        return named->slot;
+    log("Dish has no name - %@", key);
+    return kNameRU;
+}
+
+} // namespace
+
 EntityDescription Dish::description()
 {
     return {"Dish",
@@ -71,31 +92,30 @@ void Dish::addIngredientsENG(Ingredient &object) { addToMany(2, &object); }
 
 void Dish::removeIngredientsENG(Ingredient &object) { removeFromMany(2, &object); }
 
-Dish &Dish::dishWithID(const QString &dishID, ManagedObjectContext &inManagedObjectContext)
+Result<Dish *> Dish::dishWithID(const QString &dishID, ManagedObjectContext &inManagedObjectContext)
 {
-    StoreError error;
-    if (Dish *known = lastMatch<Dish>(inManagedObjectContext, attribute("dishID") == dishID, &error))
-        return *known;
-    if (!error.description.isNull())
-        log("dishWithID: error - %@", error.description);
+    auto known = lastMatchOrLog<Dish>(inManagedObjectContext, attribute("dishID") == dishID, "dishWithID");
+    if (!known || *known != nullptr)
+        return known;
     auto &dish = inManagedObjectContext.insert<Dish>();
     dish.setDishID(dishID);
     dish.setRecipeNew(true);
-    return dish;
+    return &dish;
 }
 
 Dish *Dish::dishWithRusName(const QString &nameRU, ManagedObjectContext &inManagedObjectContext)
 {
-    return lastMatch<Dish>(inManagedObjectContext, attribute("nameRU") == nameRU);
+    return lastMatchOrLog<Dish>(inManagedObjectContext, attribute("nameRU") == nameRU, "dishWithRusName")
+        .value_or(nullptr);
 }
 
-QString Dish::displayName() const { return valueForKey(localized(QStringLiteral("nameKey"))).toString(); }
+QString Dish::displayName() const { return textAt(displayNameSlot(entity())); }
 
 void Dish::sortByDisplayName(std::vector<Dish *> &dishes)
 {
     if (dishes.empty())
         return;
-    const int slot = dishes.front()->entity().property(localized(QStringLiteral("nameKey")).toStdString()).slot;
+    const int slot = displayNameSlot(dishes.front()->entity());
     std::sort(dishes.begin(), dishes.end(), [slot](const Dish *left, const Dish *right) {
         const int order = compareValues(left->attributeAt(slot), right->attributeAt(slot));
         return order != 0 ? order < 0 : left->objectID() < right->objectID();
@@ -104,11 +124,12 @@ void Dish::sortByDisplayName(std::vector<Dish *> &dishes)
 
 std::vector<Ingredient *> Dish::ingredients() const
 {
-    // The table of each language names the relationship that holds its lines.
-    const RelationshipDescription *list = entity().relationship(localized(QStringLiteral("ingKey")).toStdString());
-    if (list == nullptr || !list->toMany || list->destination != "Ingredient")
-        return {};
-    auto lines = objectsAt<Ingredient>(list->slot);
+    const QString key = localized(QStringLiteral("ingKey"));
+    const RelationshipDescription *list = entity().relationship(key.toStdString());
+    const bool fits = list != nullptr && list->toMany && list->destination == "Ingredient";
+    if (!fits)
+        log("Dish has no ingredients - %@", key);
+    auto lines = fits ? objectsAt<Ingredient>(list->slot) : ingredientsRU();
     std::stable_sort(lines.begin(), lines.end(), [](const Ingredient *left, const Ingredient *right) {
         return left->displayOrder() < right->displayOrder();
     });

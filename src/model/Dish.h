@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Error.h"
 #include "platform/objectgraph/ManagedObject.h"
 
 #include <vector>
@@ -24,12 +25,15 @@ public:
     }
     [[nodiscard]] static EntityDescription description();
 
-    /// The dish of an identifier. A new one is marked as a new recipe and not saved.
-    static Dish &dishWithID(const QString &dishID, ManagedObjectContext &inManagedObjectContext);
-    /// The dish of exactly this Russian name, or null.
-    static Dish *dishWithRusName(const QString &nameRU, ManagedObjectContext &inManagedObjectContext);
+    /// The dish of an identifier. A new one is marked as a new recipe and not saved. An error, which was logged, when
+    /// it could not be looked up.
+    [[nodiscard]] static Result<Dish *> dishWithID(const QString &dishID, ManagedObjectContext &inManagedObjectContext);
+    /// The dish of exactly this Russian name; null when there is none or, with a line in the log, when it could not be
+    /// looked up.
+    [[nodiscard]] static Dish *dishWithRusName(const QString &nameRU, ManagedObjectContext &inManagedObjectContext);
 
-    /// The name in the language of the interface.
+    /// The name in the language of the interface; the Russian one, and a line in the log, when the string table does
+    /// not say which one that is.
     [[nodiscard]] QString displayName() const;
     /// Letter for letter; dishes of one name stay in the order of their making.
     static void sortByDisplayName(std::vector<Dish *> &dishes);

@@ -45,21 +45,20 @@ void DishesCategory::addDishes(Dish &object) { addToMany(0, &object); }
 
 void DishesCategory::removeDishes(Dish &object) { removeFromMany(0, &object); }
 
-DishesCategory &DishesCategory::dishCategoryWirhRusName(const QString &rusName, const QString &engName,
-                                                        ManagedObjectContext &inManagedObjectContext)
+Result<DishesCategory *> DishesCategory::dishCategoryWirhRusName(const QString &rusName, const QString &engName,
+                                                                 ManagedObjectContext &inManagedObjectContext)
 {
-    StoreError error;
-    if (auto *known = lastMatch<DishesCategory>(inManagedObjectContext, attribute("nameRU") == rusName, &error))
-        return *known;
-    if (!error.description.isNull())
-        log("dishCategoryWirhRusName: error - %@", error.description);
+    const Predicate sameName = rusName.isNull() ? attribute("nameRU").isAbsent() : attribute("nameRU") == rusName;
+    auto known = lastMatchOrLog<DishesCategory>(inManagedObjectContext, sameName, "dishCategoryWirhRusName");
+    if (!known || *known != nullptr)
+        return known;
     log("create category - %@|%@", rusName, engName);
     auto &category = inManagedObjectContext.insert<DishesCategory>();
     category.setNameRU(rusName);
     category.setNameENG(engName);
     const auto position = categoriesInOrder().indexOf(rusName);
     category.setDisplayOrder(position >= 0 ? static_cast<quint32>(position) : kUnknownOrder);
-    return category;
+    return &category;
 }
 
 } // namespace kesto

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Error.h"
 #include "platform/objectgraph/ManagedObject.h"
 
 #include <limits>
@@ -26,9 +27,10 @@ public:
     static constexpr quint32 kUnknownOrder = std::numeric_limits<quint32>::max();
 
     /// The category of a Russian name, as it is. A new one gets both names and its place among the nine; it is not
-    /// saved.
-    static DishesCategory &dishCategoryWirhRusName(const QString &rusName, const QString &engName,
-                                                   ManagedObjectContext &inManagedObjectContext);
+    /// saved. An error, which was logged, when it could not be looked up.
+    [[nodiscard]] static Result<DishesCategory *> dishCategoryWirhRusName(const QString &rusName,
+                                                                          const QString &engName,
+                                                                          ManagedObjectContext &inManagedObjectContext);
 
     [[nodiscard]] QString nameRU() const { return textAt(0); } ///< the key
     void setNameRU(const QString &value) { setTextAt(0, value); }

@@ -33,14 +33,15 @@ void Ingredient::addPurchaseIngredient(PurhaseIngredient &object) { addToMany(0,
 
 void Ingredient::removePurchaseIngredient(PurhaseIngredient &object) { removeFromMany(0, &object); }
 
-Ingredient &Ingredient::ingredientWithName(const QString &name, ManagedObjectContext &inManagedObjectContext)
+Result<Ingredient *> Ingredient::ingredientWithName(const QString &name, ManagedObjectContext &inManagedObjectContext)
 {
-    if (auto *known = lastMatch<Ingredient>(inManagedObjectContext, attribute("name") == name))
-        return *known;
+    auto known = lastMatchOrLog<Ingredient>(inManagedObjectContext, attribute("name") == name, "ingredientWithName");
+    if (!known || *known != nullptr)
+        return known;
     auto &ingredient = inManagedObjectContext.insert<Ingredient>();
     ingredient.setName(name);
     inManagedObjectContext.saveOrKeepChanges();
-    return ingredient;
+    return &ingredient;
 }
 
 } // namespace kesto

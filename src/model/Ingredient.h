@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Error.h"
 #include "platform/objectgraph/ManagedObject.h"
 
 #include <vector>
@@ -22,8 +23,10 @@ public:
     }
     [[nodiscard]] static EntityDescription description();
 
-    /// The line of exactly this name; a new one is saved at once.
-    static Ingredient &ingredientWithName(const QString &name, ManagedObjectContext &inManagedObjectContext);
+    /// The line of exactly this name; a new one is saved at once. An error, which was logged, when it could not be
+    /// looked up.
+    [[nodiscard]] static Result<Ingredient *> ingredientWithName(const QString &name,
+                                                                 ManagedObjectContext &inManagedObjectContext);
 
     [[nodiscard]] QString name() const { return textAt(0); } ///< the whole line, quantity included
     void setName(const QString &value) { setTextAt(0, value); }

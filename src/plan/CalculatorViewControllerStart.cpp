@@ -36,7 +36,7 @@ QList<Alert::Button> startButtons()
     return {{localized(QStringLiteral("Отменить")), Alert::Role::Cancel}, {localized(QStringLiteral("Начать"))}};
 }
 
-std::vector<DietDay *> daysBefore(const QDateTime &date, ManagedObjectContext &context)
+Result<std::vector<DietDay *>> daysBefore(const QDateTime &date, ManagedObjectContext &context)
 {
     FetchRequest earlier;
     earlier.predicate = attribute("date") < date;
@@ -59,7 +59,8 @@ void CalculatorViewController::startDietIntro()
 
 void CalculatorViewController::dialogAnswered(const QDateTime &date)
 {
-    if (daysBefore(date, *CoreDataManager::sharedManager().managedObjectContext()).empty()) {
+    const auto earlier = daysBefore(date, planContext());
+    if (earlier && earlier->empty()) { // when they can't be read, there may be some to lose
         startDietOn(date);
         return;
     }
@@ -93,8 +94,12 @@ void CalculatorViewController::startDietOn(const QDateTime &date)
     CoreDataManager &manager = CoreDataManager::sharedManager();
     ManagedObjectContext &context = planContext();
     const QDateTime start = mn_beginningOfDay(date);
-    for (DietDay *day : daysBefore(date, context))
-        context.deleteObject(*day);
+    if (const auto earlier = daysBefore(date, context); !earlier)
+        log("startDietOn: error - %@", earlier.error().message());
+    else {
+        for (DietDay *day : *earlier)
+            context.deleteObject(*day);
+    }
     savePlan();
 
     manager.setStartDietDay(start);
@@ -125,8 +130,13 @@ void CalculatorViewController::makeAttackPeriodForDate(const QDateTime &date, in
     FetchRequest request;
     request.predicate =
         attribute("date") >= date && attribute("date") <= date.addSecs((periodDays - 1) * secondsPerDay);
+    const auto found = context.fetch<DietDay>(request);
+    if (!found) { // a second record of a day would hide the first one
+        log("makeAttackPeriodForDate: error - %@", found.error().message());
+        return;
+    }
     QHash<QDateTime, DietDay *> known;
-    for (DietDay *day : context.fetch<DietDay>(request)) {
+    for (DietDay *day : *found) {
         if (day->date() && !known.contains(*day->date()))
             known.insert(*day->date(), day);
     }

@@ -80,7 +80,7 @@ QList<CalendarCell> CalendarMonth::makeCells() const
     request.predicate = attribute("date") >= calendar.startOfDay(first) &&
                         attribute("date") < calendar.startOfDay(first.addDays(shown));
     QHash<QDateTime, const DietDay *> records;
-    for (const DietDay *day : CoreDataManager::sharedManager().managedObjectContext()->fetch<DietDay>(request)) {
+    for (const DietDay *day : CoreDataManager::sharedManager().managedObjectContext()->fetchOrLog<DietDay>(request)) {
         if (day->date() && !records.contains(*day->date())) // of two, the one that DietDay::dayWithoutCreation() finds
             records.insert(*day->date(), day);
     }

@@ -146,7 +146,10 @@ void CalendarViewController::removeIfEmpty(DietDay &day)
 void CalendarViewController::dietDayTypeButtonTouched(const CalKindButton &button, const QDateTime &date,
                                                       const IndexPath &)
 {
-    DietDay &day = DietDay::dietDatWithDate(date, planContext());
+    const auto found = DietDay::dietDatWithDate(date, planContext());
+    if (!found)
+        return;
+    DietDay &day = **found;
     for (const QString &key : DayKinds::keys())
         day.setValueForKey(QVariant(), key);
     if (button.isSelected()) // otherwise the day stays without: a stored NO would keep it from being empty
@@ -161,7 +164,10 @@ void CalendarViewController::textFieldDidEndEditing(int tag, const QString &text
 {
     const QString &key = CalFooterView::fieldKeys()[static_cast<size_t>(tag)];
     const float value = floatValue(text);
-    DietDay &day = DietDay::dietDatWithDate(currentDate_, planContext());
+    const auto found = DietDay::dietDatWithDate(currentDate_, planContext());
+    if (!found)
+        return;
+    DietDay &day = **found;
     day.setValueForKey(value > 0 ? QVariant(value) : QVariant(), key);
     removeIfEmpty(day);
     dietDayDetailViewControllerDidUpdateDay();

@@ -15,7 +15,7 @@ std::vector<DishInDietDay *> dishesOfDay(const DietDay &day)
     request.predicate = attribute("dietDays") == &day;
     request.sortDescriptors = {{"displayOrder"}};
     request.relationshipKeyPathsForPrefetching = {"dish"};
-    return planContext().fetch<DishInDietDay>(request);
+    return planContext().fetchOrLog<DishInDietDay>(request);
 }
 
 QString nameOfPlanned(const DishInDietDay &planned)

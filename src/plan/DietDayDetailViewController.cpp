@@ -104,7 +104,7 @@ void DietDayDetailViewController::setDisbledDay(bool disabled)
 DietDay *DietDayDetailViewController::day()
 {
     if ((day_ == nullptr || day_->isDeleted()) && date_.isValid() && !disbledDay_)
-        day_ = &DietDay::dietDatWithDate(date_, planContext());
+        day_ = DietDay::dietDatWithDate(date_, planContext()).value_or(nullptr);
     return day_;
 }
 
@@ -263,7 +263,7 @@ float DietDayDetailViewController::shownOnWheels() const
     request.predicate = attribute("date") < date_ && attribute("weight") > 0.0;
     request.sortDescriptors = {{"date", false}};
     request.fetchLimit = 1;
-    const std::vector<DietDay *> weighed = planContext().fetch<DietDay>(request);
+    const std::vector<DietDay *> weighed = planContext().fetchOrLog<DietDay>(request);
     if (!weighed.empty())
         return weighed.front()->weight().value_or(0);
     const int weightInput = static_cast<int>(CalculatorInput::Weight);

@@ -117,7 +117,7 @@ QSet<const Dish *> DishesViewController::dishesOfJournal() const
     FetchRequest request;
     request.predicate = attribute("joranlDay") == journal;
     request.relationshipKeyPathsForPrefetching = {"dishesInDietDay"};
-    for (const TimeRow *row : journal->managedObjectContext().fetch<TimeRow>(request)) {
+    for (const TimeRow *row : journal->managedObjectContext().fetchOrLog<TimeRow>(request)) {
         for (const DishInDietDay *placed : row->dishesInDietDay())
             dishes.insert(placed->dish());
     }

@@ -28,7 +28,7 @@ std::vector<Dish *> FavoritesManager::favoritiesDishes() const
     FetchRequest request;
     request.predicate = attribute("nameRU").in(std::vector<QString>(dishesIDS_.begin(), dishesIDS_.end()));
     QHash<QString, Dish *> byName;
-    for (Dish *dish : CoreDataManager::sharedManager().managedObjectContext()->fetch<Dish>(request)) {
+    for (Dish *dish : CoreDataManager::sharedManager().managedObjectContext()->fetchOrLog<Dish>(request)) {
         if (!byName.contains(dish->nameRU())) // of two dishes of one name, the one that a look-up by name finds
             byName.insert(dish->nameRU(), dish);
     }

@@ -104,11 +104,13 @@ void CoreDataManager::updateSqliteFileForNewStartDietDay()
         return; // without a start no day lies before it and none can be counted from it
     FetchRequest earlier;
     earlier.predicate = attribute("date") < *start;
-    for (DietDay *day : context->fetch<DietDay>(earlier))
+    for (DietDay *day : context->fetchOrLog<DietDay>(earlier))
         context->deleteObject(*day);
     const qint64 days = defaults.integerForKey(Keys::kPeriod1Key);
-    for (qint64 i = 0; i < days; ++i)
-        DietDay::dietDatWithDate(start->addSecs(i * 86400), *context).setChB(true);
+    for (qint64 i = 0; i < days; ++i) {
+        if (const auto day = DietDay::dietDatWithDate(start->addSecs(i * 86400), *context))
+            (*day)->setChB(true);
+    }
     context->saveOrKeepChanges();
 }
 

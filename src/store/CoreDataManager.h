@@ -111,6 +111,7 @@ private:
     void attachStores();
     void moveFromCloud(const QString &local, const QString &cloud);
     void mergeIntoCloud(const QString &local, const QString &cloud);
+    [[nodiscard]] Result<PurhaseIngredient *> lineOf(const Ingredient &ingredient);
     void openStore(const QString &local, const QString &cloud);
 
     Platform &platform_;

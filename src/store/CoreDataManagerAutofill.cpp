@@ -50,7 +50,7 @@ std::vector<Dish *> CoreDataManager::autoFilledDishesForPeriod(int period)
     request.fetchLimit = static_cast<int>(categoriesOfDay.size());
     request.fetchBatchSize = batchSize;
     request.relationshipKeyPathsForPrefetching = {"dishes"};
-    const std::vector<DishesCategory *> categories = managedObjectContext()->fetch<DishesCategory>(request);
+    const std::vector<DishesCategory *> categories = managedObjectContext()->fetchOrLog<DishesCategory>(request);
     RandomSource &random = platform_.random();
     std::vector<Dish *> proposed;
     Dish *last = nullptr;

@@ -33,7 +33,7 @@ std::vector<PurhaseIngredient *> CoreDataManager::purhaseIngredients()
     request.sortDescriptors = {{"date", false}};
     request.fetchBatchSize = 100;
     request.relationshipKeyPathsForPrefetching = {"ingredient"}; // every line shows its product's name
-    std::vector<PurhaseIngredient *> lines = context_->fetch<PurhaseIngredient>(request);
+    std::vector<PurhaseIngredient *> lines = context_->fetchOrLog<PurhaseIngredient>(request);
     // Of those that came in one instant the last is the first, too.
     for (auto run = lines.begin(); run != lines.end();) {
         const auto end = std::find_if(
@@ -46,7 +46,13 @@ std::vector<PurhaseIngredient *> CoreDataManager::purhaseIngredients()
 
 PurhaseIngredient *CoreDataManager::purchaseIngredintWithIng(const Ingredient &ingredient)
 {
-    return lastMatch<PurhaseIngredient>(*context_, attribute("ingredient.name") == ingredient.name());
+    return lineOf(ingredient).value_or(nullptr);
+}
+
+Result<PurhaseIngredient *> CoreDataManager::lineOf(const Ingredient &ingredient)
+{
+    return lastMatchOrLog<PurhaseIngredient>(*context_, attribute("ingredient.name") == ingredient.name(),
+                                             "purchaseIngredintWithIng");
 }
 
 void CoreDataManager::addIngredientToCard(const QString &text)
@@ -55,11 +61,16 @@ void CoreDataManager::addIngredientToCard(const QString &text)
         return;
     const qsizetype quantity = text.indexOf(QStringLiteral(" - "));
     const QString name = quantity < 0 ? text : text.left(quantity);
-    Ingredient &ingredient = Ingredient::ingredientWithName(name, *context_);
-    PurhaseIngredient *line = purchaseIngredintWithIng(ingredient);
+    const auto ingredient = Ingredient::ingredientWithName(name, *context_);
+    if (!ingredient)
+        return;
+    const auto known = lineOf(**ingredient);
+    if (!known)
+        return; // a second line of the same product would be one too many
+    PurhaseIngredient *line = *known;
     if (line == nullptr) {
         line = &context_->insert<PurhaseIngredient>();
-        line->setIngredient(&ingredient);
+        line->setIngredient(*ingredient);
     }
     line->setDate(platform_.clock().now());
     context_->saveOrKeepChanges();
@@ -75,7 +86,7 @@ void CoreDataManager::removeAllPurchaseIngredientsFromCard()
 {
     FetchRequest request;
     request.relationshipKeyPathsForPrefetching = {"ingredient.purchaseIngredient"};
-    for (PurhaseIngredient *line : context_->fetch<PurhaseIngredient>(request))
+    for (PurhaseIngredient *line : context_->fetchOrLog<PurhaseIngredient>(request))
         remove(*line);
     context_->saveOrKeepChanges();
 }

@@ -43,7 +43,7 @@ QVariantList CoreDataManager::dishesForDietPeriod(int period)
     request.sortDescriptors = {{"displayOrder"}};
     request.relationshipKeyPathsForPrefetching = {"dishes"};
     QVariantList sections;
-    for (const DishesCategory *category : context_->fetch<DishesCategory>(request)) {
+    for (const DishesCategory *category : context_->fetchOrLog<DishesCategory>(request)) {
         std::vector<Dish *> dishes = category->dishes();
         std::erase_if(dishes, [&](const Dish *dish) { return !dish->belongsToPhase(period); });
         if (dishes.empty())
@@ -60,7 +60,8 @@ QVariantList CoreDataManager::dishesForDietPeriod(int period)
 
 DishesCategory *CoreDataManager::dishesCategoryForIndex(int index)
 {
-    return lastMatch<DishesCategory>(*context_, attribute("displayOrder") == index);
+    return lastMatchOrLog<DishesCategory>(*context_, attribute("displayOrder") == index, "dishesCategoryForIndex")
+        .value_or(nullptr);
 }
 
 void CoreDataManager::deleteDish(Dish &dish)
@@ -82,7 +83,7 @@ bool CoreDataManager::saveRecipesToPlist()
     request.sortDescriptors = {{"dishID"}};
     request.relationshipKeyPathsForPrefetching = {"dishCategory", "ingredientsRU", "ingredientsENG"};
     QVariantList recipes;
-    for (const Dish *dish : context_->fetch<Dish>(request)) {
+    for (const Dish *dish : context_->fetchOrLog<Dish>(request)) {
         QVariantMap recipe{{QStringLiteral("ingredientsRU"), names(dish->ingredientsRU())},
                            {QStringLiteral("ingredientsENG"), names(dish->ingredientsENG())}};
         const auto put = [&recipe](const char *key, const QString &text) {

@@ -51,9 +51,8 @@ void CoreDataManager::attachStores()
 void CoreDataManager::moveFromCloud(const QString &local, const QString &cloud)
 {
     log("REMOVE ICLOUD STORE fron urk - %@", url(cloud));
-    StoreError error;
-    if (!coordinator_->addPersistentStore(cloud, {kUbiquitousContentName, false}, &error)) {
-        log("error while additing presitance store - %@", error.description);
+    if (const auto added = coordinator_->addPersistentStore(cloud, {kUbiquitousContentName, false}); !added) {
+        log("error while additing presitance store - %@", added.error().message());
         return;
     }
     coordinator_->perform([this, local] {
@@ -64,6 +63,7 @@ void CoreDataManager::moveFromCloud(const QString &local, const QString &cloud)
             defaults.setBool(false, Keys::kOldDataMerged);
             defaults.setBool(false, Keys::kDisableiCloud);
             defaults.synchronize();
+            return Result<void>();
         };
         if (!coordinator_->migratePersistentStore(local, {QString(), true}, clearMarkers))
             return; // the cloud file stays in use; the next start tries again
@@ -76,9 +76,8 @@ void CoreDataManager::moveFromCloud(const QString &local, const QString &cloud)
 void CoreDataManager::mergeIntoCloud(const QString &local, const QString &cloud)
 {
     log(QStringLiteral("start merging from normal store to iCLoud"));
-    StoreError error;
-    if (!coordinator_->addPersistentStore(local, {}, &error)) {
-        log("error while additing presitance store - %@", error.description);
+    if (const auto added = coordinator_->addPersistentStore(local, {}); !added) {
+        log("error while additing presitance store - %@", added.error().message());
         return;
     }
     coordinator_->perform([this, local, cloud] {
@@ -86,6 +85,7 @@ void CoreDataManager::mergeIntoCloud(const QString &local, const QString &cloud)
         const auto setMarker = [&defaults] {
             defaults.setBool(true, Keys::kOldDataMerged);
             defaults.synchronize();
+            return Result<void>();
         };
         if (!coordinator_->migratePersistentStore(cloud, {kUbiquitousContentName, false}, setMarker))
             return; // the local file stays in use; the next start tries again
@@ -104,11 +104,10 @@ void CoreDataManager::openStore(const QString &local, const QString &cloud)
         log(QStringLiteral("add iclouyd key"));
     }
     const QString path = useCloud_ ? cloud : local;
-    StoreError error;
-    if (coordinator_->addPersistentStore(path, options, &error))
+    if (const auto added = coordinator_->addPersistentStore(path, options))
         log("added normal store to url - %@", url(path));
     else
-        log("error while additing presitance store - %@", error.description);
+        log("error while additing presitance store - %@", added.error().message());
 }
 
 } // namespace kesto

@@ -33,7 +33,7 @@ Dish *someDish()
     FetchRequest request;
     request.sortDescriptors = {{"dishID", false}}; // the user's have none and come last
     request.fetchLimit = 1;
-    const std::vector<Dish *> found = context().fetch<Dish>(request);
+    const std::vector<Dish *> found = context().fetchOrLog<Dish>(request);
     return found.empty() ? nullptr : found.front();
 }
 
@@ -43,7 +43,7 @@ Dish *ownDish()
     FetchRequest request;
     request.predicate = attribute("userCreated") == true;
     request.fetchLimit = 1;
-    if (const std::vector<Dish *> made = context().fetch<Dish>(request); !made.empty())
+    if (const std::vector<Dish *> made = context().fetchOrLog<Dish>(request); !made.empty())
         return made.front();
     const Dish *model = someDish();
     if (model == nullptr)

@@ -69,7 +69,10 @@ void startDiet(TourGuide &guide, int attack, int cruise)
 
     ManagedObjectContext &context = *manager.managedObjectContext();
     for (int i = 0; i < attackDays + cruiseDays; ++i) {
-        DietDay &day = DietDay::dietDatWithDate(calendar.startOfDay(first.addDays(i)), context);
+        const auto found = DietDay::dietDatWithDate(calendar.startOfDay(first.addDays(i)), context);
+        if (!found)
+            return;
+        DietDay &day = **found;
         const bool pureProtein = i < attackDays || (i - attackDays) / attackDays % 2 == 0;
         day.setChB(pureProtein ? std::optional(true) : std::nullopt);
         day.setBO(pureProtein ? std::nullopt : std::optional(true));
@@ -82,13 +85,16 @@ void startDiet(TourGuide &guide, int attack, int cruise)
         if (day.jornalDay() == nullptr)
             context.insert<JornalDay>().setDay(&day);
     }
-    DietDay &day = DietDay::dietDatWithDate(calendar.startOfDay(today), context);
+    const auto found = DietDay::dietDatWithDate(calendar.startOfDay(today), context);
+    if (!found)
+        return;
+    DietDay &day = **found;
     FetchRequest dishes;
     dishes.predicate = attribute("dietPeriod").contains(QStringLiteral("0"));
     dishes.fetchLimit = 3;
     if (day.dishes().empty()) {
         int order = 0;
-        for (Dish *dish : context.fetch<Dish>(dishes)) {
+        for (Dish *dish : context.fetchOrLog<Dish>(dishes)) {
             auto &planned = context.insert<DishInDietDay>();
             planned.setDisplayOrder(order++);
             planned.setDish(dish);

@@ -82,7 +82,7 @@ void favourites(TourGuide &guide)
 {
     FavoritesManager &manager = FavoritesManager::sharedManager();
     int i = 0;
-    for (Dish *dish : CoreDataManager::sharedManager().managedObjectContext()->fetch<Dish>()) {
+    for (Dish *dish : CoreDataManager::sharedManager().managedObjectContext()->fetchOrLog<Dish>()) {
         if (++i % 14 == 0 && !manager.isDishInFovorite(*dish))
             manager.addDishToFavorite(*dish);
     }

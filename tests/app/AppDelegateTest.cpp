@@ -218,7 +218,7 @@ TEST_F(LaunchTest, WhatIsNotSavedYetIsWhenTheProgramIsLeft)
     delegate_->applicationWillTerminate();
     EXPECT_FALSE(unsaved()->hasChanges());
     restart(QStringLiteral("1.0"));
-    EXPECT_EQ(unsaved()->fetch<Dish>().size(), 2U);
+    EXPECT_EQ(unsaved()->fetchOrLog<Dish>().size(), 2U);
 }
 
 TEST_F(LaunchTest, ForegroundAndTerminationWriteTheSettings)

@@ -108,7 +108,7 @@ TEST_F(WindowTest, FirstStartToTheMenuAndBackByPointer)
     EXPECT_FALSE(user.sees(QAccessible::Heading, calculator));
     ASSERT_TRUE(user.waitsUntilGone(QAccessible::Indicator, preparing));
     ASSERT_TRUE(user.waitsToSee(QAccessible::Heading, calculator));
-    EXPECT_GT(CoreDataManager::sharedManager().managedObjectContext()->fetch<Dish>({}).size(), 100U);
+    EXPECT_GT(CoreDataManager::sharedManager().managedObjectContext()->fetchOrLog<Dish>({}).size(), 100U);
     EXPECT_EQ(Platform::current().userDefaults().stringForKey(Keys::kAppVersionKey), QStringLiteral("1.0"));
 
     ASSERT_TRUE(user.touches(QAccessible::Button, QStringLiteral("Меню")));

@@ -83,7 +83,7 @@ Dish &ImportFixture::dish(const char *dishID)
 {
     FetchRequest request;
     request.predicate = attribute("dishID") == QLatin1String(dishID);
-    const std::vector<Dish *> found = context().fetch<Dish>(request);
+    const std::vector<Dish *> found = context().fetchOrLog<Dish>(request);
     if (found.size() != 1)
         throw std::runtime_error(std::string("not exactly one dish ") + dishID);
     return *found.front();
@@ -105,7 +105,7 @@ std::string ImportFixture::outline(std::vector<Ingredient *> lines)
 QStringList ImportFixture::content()
 {
     QStringList texts;
-    for (const Dish *dish : context().fetch<Dish>()) {
+    for (const Dish *dish : context().fetchOrLog<Dish>()) {
         const DishesCategory *category = dish->dishCategory();
         const QStringList parts{orNothing(dish->dishID()),
                                 orNothing(dish->nameRU()),
@@ -120,12 +120,12 @@ QStringList ImportFixture::content()
                                 QString::fromStdString(outline(dish->ingredientsENG()))};
         texts.append(parts.join(u'|'));
     }
-    for (const DishesCategory *category : context().fetch<DishesCategory>())
+    for (const DishesCategory *category : context().fetchOrLog<DishesCategory>())
         texts.append(category->nameRU() + u'|' + category->nameENG() + u'|' +
                      QString::number(category->displayOrder().value_or(0)));
-    for (const Ingredient *line : context().fetch<Ingredient>())
+    for (const Ingredient *line : context().fetchOrLog<Ingredient>())
         texts.append(QStringLiteral("line ") + line->name());
-    for (const PurhaseIngredient *purchase : context().fetch<PurhaseIngredient>()) {
+    for (const PurhaseIngredient *purchase : context().fetchOrLog<PurhaseIngredient>()) {
         const Ingredient *line = purchase->ingredient();
         texts.append(QStringLiteral("purchase ") + (line != nullptr ? line->name() : QStringLiteral("(nothing)")));
     }
@@ -134,10 +134,8 @@ QStringList ImportFixture::content()
 
 void ImportFixture::makeReadOnly(bool readOnly)
 {
-    StoreError error;
-    ASSERT_TRUE(context().persistentStoreCoordinator().access()->execute(
-        readOnly ? "PRAGMA query_only = 1" : "PRAGMA query_only = 0", &error))
-        << error.description.toStdString();
+    ASSERT_TRUE(context().persistentStoreCoordinator().access()->execute(readOnly ? "PRAGMA query_only = 1"
+                                                                                  : "PRAGMA query_only = 0"));
 }
 
 } // namespace kesto::test

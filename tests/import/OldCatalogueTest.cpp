@@ -137,8 +137,8 @@ TEST_F(OldCatalogueTest, ImportsUpdatesAndLeavesThePositionsAbsent)
     EXPECT_EQ(updated.dietPeriod(), QStringLiteral("23"));
     EXPECT_EQ(outline(updated.ingredientsRU()), "- Б, - А - 1, - В");
     EXPECT_EQ(outline(updated.ingredientsENG()), "- C");
-    EXPECT_EQ(context().fetch<Ingredient>().size(), 4U);
-    const Ingredient *bought = context().fetch<PurhaseIngredient>().front()->ingredient();
+    EXPECT_EQ(context().fetchOrLog<Ingredient>().size(), 4U);
+    const Ingredient *bought = context().fetchOrLog<PurhaseIngredient>().front()->ingredient();
     ASSERT_NE(bought, nullptr);
     EXPECT_EQ(bought->name(), name);
     EXPECT_EQ(bought->dishRU(), &updated);
@@ -153,5 +153,5 @@ TEST_F(OldCatalogueTest, ADishOfTheNewCatalogueIsTheSameDish)
     EXPECT_EQ(outline(dish("x1").ingredientsRU()), "- А - 1, - Б");
     import({record("x1", "Новая", "New")});
     EXPECT_EQ(outline(dish("x1").ingredientsRU()), "0 Новая");
-    EXPECT_EQ(context().fetch<Ingredient>().size(), 2U);
+    EXPECT_EQ(context().fetchOrLog<Ingredient>().size(), 2U);
 }

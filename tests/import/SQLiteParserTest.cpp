@@ -47,7 +47,7 @@ protected:
     template <class T>
     [[nodiscard]] size_t count()
     {
-        return context().fetch<T>().size();
+        return context().fetchOrLog<T>().size();
     }
 };
 
@@ -118,7 +118,7 @@ TEST_F(SQLiteParserTest, ADishMovesWithItsCategoryAndTheOldOneStays)
     restart();
 
     EXPECT_EQ(dish("a1").dishCategory()->displayOrder(), 8U);
-    const std::vector<DishesCategory *> categories = context().fetch<DishesCategory>();
+    const std::vector<DishesCategory *> categories = context().fetchOrLog<DishesCategory>();
     ASSERT_THAT(categories, SizeIs(2));
     EXPECT_TRUE(categories[0]->dishes().empty());
 }
@@ -133,7 +133,7 @@ TEST_F(SQLiteParserTest, WhatTheUserAttachedStays)
     auto &photo = context().insert<Image>();
     photo.setData(QByteArray("photo"));
     known.setImage(&photo);
-    DietDay &day = DietDay::dietDatWithDate(platform().date(2024, 3, 8), context());
+    DietDay &day = *DietDay::dietDatWithDate(platform().date(2024, 3, 8), context()).value();
     auto &planning = context().insert<DishInDietDay>();
     planning.setDish(&known);
     planning.setDietDays(&day);
@@ -218,7 +218,7 @@ TEST_F(SQLiteParserTest, AShoppingListLinePointsToTheNewLineOfTheSameName)
     import({record("a1", "Соль, Яйцо - 2 шт.", "Salt, Egg - 2 pcs"), record("a2", "Яйцо - 2 шт.")});
     restart();
 
-    const std::vector<PurhaseIngredient *> purchases = context().fetch<PurhaseIngredient>();
+    const std::vector<PurhaseIngredient *> purchases = context().fetchOrLog<PurhaseIngredient>();
     ASSERT_THAT(purchases, SizeIs(5));
     QStringList names;
     for (const PurhaseIngredient *purchase : purchases) {

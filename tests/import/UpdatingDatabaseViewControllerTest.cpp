@@ -70,7 +70,7 @@ protected:
         const auto content = PropertyList::read(platform().defaultsPath());
         return content ? content->toMap().value(Keys::kAppVersionKey) : QVariant();
     }
-    [[nodiscard]] size_t dishCount() { return context().fetch<Dish>({}).size(); }
+    [[nodiscard]] size_t dishCount() { return context().fetchOrLog<Dish>({}).size(); }
 };
 
 TEST_F(UpdatingDatabaseTest, WaitsHalfASecondThenImportsRecordsTheVersionAndLeaves)

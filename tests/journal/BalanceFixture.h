@@ -17,7 +17,7 @@ class BalanceFixture : public testing::Test
 protected:
     ~BalanceFixture() override { leave(); }
 
-    [[nodiscard]] DietDay &dayOf(int day) { return JornalHelper::dietDayForDate(program.platform.date(2024, 3, day)); }
+    [[nodiscard]] DietDay &dayOf(int day) { return *JornalHelper::dietDayForDate(program.platform.date(2024, 3, day)); }
     [[nodiscard]] JornalDay &journal() { return *dayOf(7).jornalDay(); }
     template <class Screen, class... Arguments>
     Screen &show(Arguments &&...arguments)

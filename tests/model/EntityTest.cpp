@@ -260,7 +260,7 @@ protected:
     ManagedObject &insert(const std::string &entity) { return context_->insert(*dietModel().entity(entity)); }
     std::vector<ManagedObject *> all(const std::string &entity)
     {
-        return context_->fetch(*dietModel().entity(entity), {});
+        return context_->fetch(*dietModel().entity(entity), {}).value();
     }
 
     QTemporaryDir folder_;
@@ -380,19 +380,19 @@ TEST_F(EntityTest, ADeletedJournalTakesAllBelowItAndNothingBeside)
         planned.setDish(&dish);
     }
     saveAndReopen();
-    context_->deleteObject(*context_->fetch<JornalDay>().front());
+    context_->deleteObject(*context_->fetchOrLog<JornalDay>().front());
     for (int round = 0; round < 2; ++round) {
-        EXPECT_TRUE(context_->fetch<TimeRow>().empty());
-        EXPECT_TRUE(context_->fetch<TimeObject>().empty());
-        EXPECT_TRUE(context_->fetch<FoodObject>().empty());
-        ASSERT_EQ(context_->fetch<DietDay>().size(), 1U);
-        EXPECT_EQ(context_->fetch<DietDay>().front()->jornalDay(), nullptr);
-        EXPECT_EQ(context_->fetch<DietDay>().front()->dishes().size(), 3U);
-        EXPECT_EQ(context_->fetch<Dish>().front()->dishInDietDays().size(), 3U);
+        EXPECT_TRUE(context_->fetchOrLog<TimeRow>().empty());
+        EXPECT_TRUE(context_->fetchOrLog<TimeObject>().empty());
+        EXPECT_TRUE(context_->fetchOrLog<FoodObject>().empty());
+        ASSERT_EQ(context_->fetchOrLog<DietDay>().size(), 1U);
+        EXPECT_EQ(context_->fetchOrLog<DietDay>().front()->jornalDay(), nullptr);
+        EXPECT_EQ(context_->fetchOrLog<DietDay>().front()->dishes().size(), 3U);
+        EXPECT_EQ(context_->fetchOrLog<Dish>().front()->dishInDietDays().size(), 3U);
         saveAndReopen();
     }
-    context_->deleteObject(*context_->fetch<Dish>().front());
-    EXPECT_TRUE(context_->fetch<DietDay>().front()->dishes().empty());
+    context_->deleteObject(*context_->fetchOrLog<Dish>().front());
+    EXPECT_TRUE(context_->fetchOrLog<DietDay>().front()->dishes().empty());
 }
 
 } // namespace

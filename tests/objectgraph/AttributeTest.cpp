@@ -167,7 +167,7 @@ TEST_F(AttributeTest, WhatIsNoNumberOrNoDateIsAbsent)
     // The store has no place for these; memory and store must not differ.
     ManagedObject &anna = person("Anna");
     set(anna, "height", 1.0F);
-    anna.setAttribute(anna.entity().property("height").slot, std::nan(""));
+    anna.setAttribute(anna.entity().property("height").value().slot, std::nan(""));
     EXPECT_FALSE(get(anna, "height").isValid());
     set(anna, "born", QVariant(QDateTime()));
     EXPECT_FALSE(get(anna, "born").isValid());

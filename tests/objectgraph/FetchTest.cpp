@@ -260,17 +260,15 @@ TEST_F(FetchTest, ImpossibleRequestsAreErrorsAndFindNothing)
     };
     int i = 0;
     for (const FetchRequest &request : table) {
-        StoreError error;
-        EXPECT_THAT(names(graph().context.fetch(graph().entity("Person"), request, &error)), IsEmpty()) << i;
-        EXPECT_FALSE(error.description.isEmpty()) << i;
-        EXPECT_THAT(names(graph().context.fetch(graph().entity("Person"), request)), IsEmpty()) << i++;
+        const auto found = graph().context.fetch(graph().entity("Person"), request);
+        EXPECT_FALSE(found) << i;
+        EXPECT_FALSE(found || found.error().reason.isEmpty()) << i++;
     }
     // What the store can't do finds nothing either, not even what is in memory.
-    ASSERT_TRUE(graph().coordinator.access()->execute("DROP TABLE Person", nullptr));
-    for (StoreError *const error : {&graph().error, static_cast<StoreError *>(nullptr)})
-        EXPECT_THAT(names(graph().context.fetch(graph().entity("Person"), {}, error)), IsEmpty());
-    EXPECT_FALSE(graph().error.description.isEmpty());
-    EXPECT_NE(graph().error.code, 0);
+    ASSERT_TRUE(graph().coordinator.access()->execute("DROP TABLE Person"));
+    const auto found = graph().context.fetch(graph().entity("Person"), {});
+    ASSERT_FALSE(found);
+    EXPECT_NE(found.error().code, 0);
 }
 
 TEST_F(FetchTest, BatchesReadThatManyObjectsAtATime)

@@ -90,9 +90,16 @@ void writeBytes(const QString &path, const QByteArray &bytes)
 OpenGraph::OpenGraph(const QString &path, const ManagedObjectModel &usedModel)
     : model(usedModel)
     , coordinator(model)
-    , attached(path.isNull() || coordinator.addPersistentStore(path, {}, &error))
+    , attached(path.isNull() || succeeded(coordinator.addPersistentStore(path, {})))
     , context(coordinator)
 {
+}
+
+bool OpenGraph::succeeded(Result<void> result)
+{
+    if (!result)
+        error = std::move(result.error());
+    return result.has_value();
 }
 
 ManagedObject &OpenGraph::insert(const char *entity, Values values)
@@ -105,10 +112,9 @@ ManagedObject &OpenGraph::insert(const char *entity, Values values)
 
 std::vector<ManagedObject *> OpenGraph::fetch(const char *entity, const FetchRequest &request)
 {
-    StoreError problem;
-    auto found = context.fetch(this->entity(entity), request, &problem);
-    EXPECT_EQ(problem.description, QString());
-    return found;
+    auto found = context.fetch(this->entity(entity), request);
+    EXPECT_TRUE(found) << found.error().message().toStdString();
+    return found.value_or(std::vector<ManagedObject *>());
 }
 
 ManagedObject *OpenGraph::find(const char *entity, const char *name)
@@ -126,10 +132,10 @@ void GraphTest::reopen()
 {
     graph_.reset();
     graph_ = std::make_unique<OpenGraph>(path());
-    ASSERT_TRUE(graph_->attached) << graph_->error.description.toStdString();
+    ASSERT_TRUE(graph_->attached) << graph_->error.message().toStdString();
 }
 
-void GraphTest::save() { ASSERT_TRUE(graph_->save()) << graph_->error.description.toStdString(); }
+void GraphTest::save() { ASSERT_TRUE(graph_->save()) << graph_->error.message().toStdString(); }
 
 FaultyVfs &GraphTest::breakableDisk()
 {

@@ -47,10 +47,12 @@ struct OpenGraph
     [[nodiscard]] std::vector<ManagedObject *> fetch(const char *entity, const FetchRequest &request = {});
     /// The only object of a name; null when there is none.
     [[nodiscard]] ManagedObject *find(const char *entity, const char *name);
-    [[nodiscard]] bool save() { return context.save(&error); }
+    [[nodiscard]] bool save() { return succeeded(context.save()); }
+    /// Keeps the reason of a failure in `error`.
+    bool succeeded(Result<void> result);
 
     const ManagedObjectModel &model;
-    StoreError error;
+    Error error;
     PersistentStoreCoordinator coordinator;
     bool attached;
     ManagedObjectContext context;

@@ -19,11 +19,14 @@ class MigrationTest : public GraphTest
 {
 protected:
     /// Starts a move in the background; result() waits for it.
-    void startMove(const QString &target, std::function<void()> beforeUse = {})
+    void startMove(const QString &target, std::function<Result<void>()> beforeUse = {})
     {
         done_ = false;
         graph().coordinator.perform([this, target, beforeUse = std::move(beforeUse)] {
-            moved_ = graph().coordinator.migratePersistentStore(target, options_, beforeUse, &reason_);
+            const auto moved = graph().coordinator.migratePersistentStore(target, options_, beforeUse);
+            moved_ = moved.has_value();
+            if (!moved)
+                reason_ = moved.error();
             done_ = true;
         });
     }
@@ -42,7 +45,7 @@ protected:
     static void expectComplete(const QString &file, qsizetype saves)
     {
         OpenGraph graph(file);
-        ASSERT_TRUE(graph.attached) << graph.error.description.toStdString();
+        ASSERT_TRUE(graph.attached) << graph.error.message().toStdString();
         const auto found = graph.fetch("Pet");
         ASSERT_EQ(static_cast<qsizetype>(found.size()), saves);
         for (qsizetype i = 0; i < saves; ++i)
@@ -63,7 +66,7 @@ protected:
     qsizetype saves_ = 0;
     std::atomic<bool> done_ = false;
     bool moved_ = false;
-    StoreError reason_;
+    Error reason_;
 };
 
 TEST_F(MigrationTest, EverySaveMadeMeanwhileIsInTheResult)
@@ -80,7 +83,7 @@ TEST_F(MigrationTest, EverySaveMadeMeanwhileIsInTheResult)
             do
                 saveNext();
             while (!done_);
-            ASSERT_TRUE(result()) << reason_.description.toStdString();
+            ASSERT_TRUE(result()) << reason_.message().toStdString();
             if (megabytes > 0) {
                 EXPECT_GT(saves_ - before, 10); // the writer got in between
             }
@@ -120,7 +123,7 @@ TEST_F(MigrationTest, ASaveThatFailsMeanwhileIsNotInTheResult)
         graph().context.deleteObject(lost);
         saveNext();
     }
-    ASSERT_TRUE(result()) << reason_.description.toStdString();
+    ASSERT_TRUE(result()) << reason_.message().toStdString();
     EXPECT_GT(failures, 0);
     saveNext();
     EXPECT_EQ(graph().fetch("Person").size(), 21U);
@@ -151,7 +154,7 @@ TEST_F(MigrationTest, WhatStandsAtTheTargetIsReplacedWithItsLog)
     writeBytes(target + QStringLiteral(".migrating"), "what a killed move left");
     writeBytes(target + QStringLiteral(".migrating-wal"), "and its log");
     startMove(target);
-    ASSERT_TRUE(result()) << reason_.description.toStdString();
+    ASSERT_TRUE(result()) << reason_.message().toStdString();
     saveNext();
     graph_.reset();
     EXPECT_EQ(files(), (QStringList{QStringLiteral("store.sqlite"), QStringLiteral("target.sqlite")}));
@@ -175,20 +178,31 @@ TEST_F(MigrationTest, AFailedMoveLeavesTheSourceInUseAndNothingBehind)
     for (const QString &target : targets) {
         SCOPED_TRACE(target.toStdString());
         bool used = false;
-        startMove(target, [&] { used = true; });
+        startMove(target, [&] {
+            used = true;
+            return Result<void>();
+        });
         EXPECT_FALSE(result());
         EXPECT_FALSE(used);
-        EXPECT_FALSE(reason_.description.isEmpty());
+        EXPECT_FALSE(reason_.message().isEmpty());
         EXPECT_EQ(graph().coordinator.persistentStorePath(), path());
         EXPECT_EQ(graph().coordinator.persistentStoreOptions(), PersistentStoreOptions());
         EXPECT_EQ(files(), before);
         saveNext();
     }
+    // The caller's own marker could not be written.
+    startMove(path("target.sqlite"), [&]() -> Result<void> {
+        EXPECT_TRUE(QFile::exists(path("target.sqlite")));
+        return failure(QStringLiteral("no marker"), {}, {});
+    });
+    EXPECT_FALSE(result());
+    EXPECT_EQ(reason_.what, QStringLiteral("no marker"));
+    EXPECT_EQ(files(), before);
+    saveNext();
     graph_.reset();
     expectComplete(path(), saves_);
     OpenGraph detached{QString()};
-    EXPECT_FALSE(detached.coordinator.migratePersistentStore(path("target.sqlite"), {}, {}, &detached.error));
-    EXPECT_FALSE(detached.error.description.isEmpty());
+    EXPECT_FALSE(detached.coordinator.migratePersistentStore(path("target.sqlite"), {}));
     EXPECT_FALSE(QFile::exists(path("target.sqlite")));
 }
 
@@ -234,6 +248,7 @@ TEST_F(MigrationTest, BeforeUseComesAfterTheCopyIsSafeAndBeforeAnyWriter)
         EXPECT_TRUE(disk.everythingIsSynced());
         std::this_thread::sleep_for(100ms);
         left = true;
+        return Result<void>();
     });
     while (!inside)
         std::this_thread::yield();
@@ -252,13 +267,11 @@ TEST_F(MigrationTest, OneMoveAtATime)
     const QString first = path("first.sqlite"), second = path("second.sqlite");
     startMove(first);
     std::this_thread::sleep_for(5ms);
-    StoreError error;
-    const bool secondMoved = graph().coordinator.migratePersistentStore(second, {}, {}, &error);
-    const bool attached = !done_ && graph().coordinator.addPersistentStore(path("other.sqlite"), {}, &error);
-    ASSERT_TRUE(result()) << reason_.description.toStdString();
+    const bool secondMoved = graph().coordinator.migratePersistentStore(second, {}).has_value();
+    const bool attached = !done_ && graph().coordinator.addPersistentStore(path("other.sqlite"), {});
+    ASSERT_TRUE(result()) << reason_.message().toStdString();
     EXPECT_FALSE(secondMoved);
     EXPECT_FALSE(attached);
-    EXPECT_FALSE(error.description.isEmpty());
     EXPECT_EQ(graph().coordinator.persistentStorePath(), first);
     EXPECT_TRUE(graph().coordinator.migratePersistentStore(second, {}));
     EXPECT_EQ(graph().fetch("Person").size(), 21U);

@@ -145,7 +145,7 @@ void RandomGraphTest::step()
             set(*self, key, object(target));
         else { // the same from the other side
             const char *inverse = isPet ? (key == std::string_view("owner") ? "pets" : "guests") : "staff";
-            const int slot = graph().entity("Person").property(inverse).slot;
+            const int slot = graph().entity("Person").property(inverse).value().slot;
             if (target != 0 && way == 1)
                 object(target)->addToMany(slot, self);
             else if (target != 0) { // instead of all others

@@ -115,7 +115,7 @@ TEST_F(RelationshipTest, SetsMayChangeWhileTheyAreWalked)
         insert("Pet", {{"owner", QVariant::fromValue(&anna)}});
     saveAndReopen();
     ManagedObject &again = person("Anna");
-    const int pets = again.entity().property("pets").slot;
+    const int pets = again.entity().property("pets").value().slot;
     int i = 0;
     for (ManagedObject *animal : again.toMany(pets)) {
         if (++i % 2 == 0)
@@ -144,8 +144,8 @@ TEST_F(RelationshipTest, DeletedObjectsRefuseWritesAndLinks)
         (void)anna.setValueForKey(31, QStringLiteral("age"));
         (void)anna.setValueForKey(QVariant::fromValue(&boris), QStringLiteral("boss"));
         (void)boris.setValueForKey(QVariant::fromValue(&anna), QStringLiteral("boss"));
-        boris.addToMany(boris.entity().property("staff").slot, &anna);
-        anna.addToMany(boris.entity().property("staff").slot, &boris);
+        boris.addToMany(boris.entity().property("staff").value().slot, &anna);
+        anna.addToMany(boris.entity().property("staff").value().slot, &boris);
         EXPECT_EQ(log.lines().size(), 5);
         EXPECT_EQ(get(anna, "age"), QVariant(30));
         EXPECT_EQ(one(boris, "boss"), nullptr);

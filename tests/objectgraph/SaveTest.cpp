@@ -31,7 +31,7 @@ protected:
         for (const char *suffix : {"", "-wal"})
             writeBytes(copy + QString::fromUtf8(suffix), bytesOf(file + QString::fromUtf8(suffix)));
         OpenGraph crashed(copy);
-        ASSERT_TRUE(crashed.attached) << crashed.error.description.toStdString();
+        ASSERT_TRUE(crashed.attached) << crashed.error.message().toStdString();
         EXPECT_TRUE(isRight(crashed));
     }
     bool failsAt(int nth, bool diskFull, Lasting lasting);
@@ -90,7 +90,7 @@ bool SaveTest::failsAt(int nth, bool diskFull, Lasting lasting)
     const bool failed = disk_.hasFailed();
     EXPECT_EQ(saved, !failed);
     if (failed) {
-        EXPECT_FALSE(graph.error.description.isEmpty());
+        EXPECT_FALSE(graph.error.message().isEmpty());
         EXPECT_EQ(graph.error.code & 0xff, diskFull ? SQLITE_FULL : SQLITE_IOERR);
         EXPECT_TRUE(graph.context.hasChanges());
         if (lasting == Lasting::FromThenOn) {
@@ -99,7 +99,7 @@ bool SaveTest::failsAt(int nth, bool diskFull, Lasting lasting)
         disk_.heal();
         checkCrashed(file, [](OpenGraph &crashed) { return isBefore(crashed) || isAfter(crashed); });
         EXPECT_TRUE(isAfter(graph)); // in memory
-        EXPECT_TRUE(graph.save()) << graph.error.description.toStdString();
+        EXPECT_TRUE(graph.save()) << graph.error.message().toStdString();
     }
     disk_.heal();
     EXPECT_FALSE(graph.context.hasChanges());
@@ -170,6 +170,16 @@ TEST_F(SaveTest, TheLogHasABoundWithoutAnEventLoop)
     EXPECT_FALSE(disk_.hasBrokenOrder());
     reopen();
     EXPECT_EQ(get(person("Anna"), "photo").toByteArray().size(), 8'000'011);
+}
+
+TEST_F(SaveTest, ATransactionThatCouldNotBeRolledBackDoesNotStopTheNextSave)
+{
+    (void)person("Anna");
+    ASSERT_TRUE(graph().coordinator.access()->execute("BEGIN; INSERT INTO Pet (name) VALUES ('half of a save')"));
+    EXPECT_TRUE(graph().save());
+    reopen();
+    EXPECT_THAT(names(graph().fetch("Person")), ElementsAre("Anna"));
+    EXPECT_EQ(graph().fetch("Pet").size(), 0U);
 }
 
 TEST_F(SaveTest, AFailureWhileTheLogIsMovedLosesNothing)

@@ -57,8 +57,8 @@ protected:
         {
             OpenGraph refused(file);
             EXPECT_FALSE(refused.attached);
-            EXPECT_TRUE(refused.error.description.contains(QString::fromUtf8(reason)))
-                << refused.error.description.toStdString();
+            EXPECT_TRUE(refused.error.message().contains(QString::fromUtf8(reason)))
+                << refused.error.message().toStdString();
             EXPECT_TRUE(refused.coordinator.persistentStorePath().isNull());
             EXPECT_TRUE(refused.fetch("Person").empty());
             refused.insert("Person", {});
@@ -90,7 +90,7 @@ TEST_F(StoreFileTest, AnOlderFileGetsWhatItLacksAndKeepsItsRows)
     }
     for (int round = 0; round < 2; ++round) {
         OpenGraph newer(file);
-        ASSERT_TRUE(newer.attached) << newer.error.description.toStdString();
+        ASSERT_TRUE(newer.attached) << newer.error.message().toStdString();
         ManagedObject *anna = newer.find("Person", "Anna");
         ASSERT_NE(anna, nullptr);
         EXPECT_EQ(get(*anna, "age"), QVariant(0));
@@ -103,7 +103,7 @@ TEST_F(StoreFileTest, AnOlderFileGetsWhatItLacksAndKeepsItsRows)
         set(*anna, "photo", QByteArray("p"));
         set(*anna, "passport", &newer.insert("Passport", {{"name", QStringLiteral("A")}}));
         newer.insert("Person", {{"name", QStringLiteral("B%1").arg(round)}, {"height", 1.5}, {"age", 5}});
-        ASSERT_TRUE(newer.save()) << newer.error.description.toStdString();
+        ASSERT_TRUE(newer.save()) << newer.error.message().toStdString();
         EXPECT_EQ(newer.fetch("Person", {.predicate = attribute("height") == 1.5 && attribute("age") == 5}).size(),
                   static_cast<size_t>(round) + 1);
     }
@@ -118,7 +118,7 @@ TEST_F(StoreFileTest, AnOlderFileGetsWhatItLacksAndKeepsItsRows)
         {
             OpenGraph older(folder + QStringLiteral("/older.sqlite"), olderModel());
             EXPECT_FALSE(older.attached);
-            EXPECT_TRUE(older.error.description.contains(QStringLiteral("newer version")));
+            EXPECT_TRUE(older.error.message().contains(QStringLiteral("newer version")));
         }
         EXPECT_EQ(before, contents(folder));
     };
@@ -186,7 +186,7 @@ TEST_F(StoreFileTest, AnEmptyFileAndAnotherNameBecomeAStore)
     for (const QString &file : files) {
         {
             OpenGraph graph(file);
-            ASSERT_TRUE(graph.attached) << graph.error.description.toStdString();
+            ASSERT_TRUE(graph.attached) << graph.error.message().toStdString();
             graph.insert("Person", {{"name", QStringLiteral("Anna")}});
             EXPECT_TRUE(graph.save());
             EXPECT_EQ(graph.coordinator.persistentStorePath(), file);
@@ -216,7 +216,7 @@ TEST_F(StoreFileTest, AFolderThatCanNotBeWrittenIsRefused)
         disk.fail(1, diskFull, FaultyVfs::Lasting::FromThenOn);
         OpenGraph refused(path());
         EXPECT_FALSE(refused.attached);
-        EXPECT_FALSE(refused.error.description.isEmpty());
+        EXPECT_FALSE(refused.error.message().isEmpty());
     }
     EXPECT_EQ(bytesOf(path()), before);
     disk.heal();
@@ -245,10 +245,10 @@ TEST_F(StoreFileTest, AFailureWhileAFileIsMadeOrBroughtUpToDateLosesNothing)
             }
             disk.heal();
             OpenGraph graph(file);
-            ASSERT_TRUE(graph.attached) << graph.error.description.toStdString();
+            ASSERT_TRUE(graph.attached) << graph.error.message().toStdString();
             EXPECT_EQ(graph.find("Person", "Anna") != nullptr, exists);
             graph.insert("Person", {{"born", QDateTime::fromMSecsSinceEpoch(0)}});
-            EXPECT_TRUE(graph.save()) << graph.error.description.toStdString();
+            EXPECT_TRUE(graph.save()) << graph.error.message().toStdString();
         }
     }
 }
@@ -260,7 +260,7 @@ TEST_F(StoreFileTest, OnlyOneConnectionUsesAFile)
     save();
     OpenGraph second(path());
     EXPECT_FALSE(second.attached);
-    EXPECT_TRUE(second.error.description.contains(QStringLiteral("in use"))) << second.error.description.toStdString();
+    EXPECT_TRUE(second.error.message().contains(QStringLiteral("in use"))) << second.error.message().toStdString();
     // A refused file leaves the one that is attached; another one takes its place.
     EXPECT_FALSE(graph().coordinator.addPersistentStore(path("missing/x"), {}));
     EXPECT_NE(graph().find("Person", "Anna"), nullptr);

@@ -30,7 +30,7 @@ protected:
     static qint64 checkSaves(const QString &file, qint64 acknowledged)
     {
         OpenGraph graph(file);
-        EXPECT_TRUE(graph.attached) << graph.error.description.toStdString();
+        EXPECT_TRUE(graph.attached) << graph.error.message().toStdString();
         const auto counters = graph.fetch("Person");
         const qint64 number = counters.empty() ? 0 : get(*counters.front(), "age").toLongLong();
         EXPECT_TRUE(number == acknowledged || number == acknowledged + 1) << number << " of " << acknowledged;
@@ -53,7 +53,7 @@ TEST_F(StoreProcessTest, ASecondProcessIsRefusedWhileTheFirstHoldsTheFile)
     ASSERT_EQ(first.next(kLong), 0);
     OpenGraph here(path());
     EXPECT_FALSE(here.attached);
-    EXPECT_TRUE(here.error.description.contains(QStringLiteral("in use"))) << here.error.description.toStdString();
+    EXPECT_TRUE(here.error.message().contains(QStringLiteral("in use"))) << here.error.message().toStdString();
     StoreProcess second("hold", path());
     EXPECT_EQ(second.next(kLong), -1);
     EXPECT_EQ(second.wait(), 3);

@@ -93,7 +93,7 @@ TEST(CalendarMonth, CellsShowPhaseKindJournalAndToday)
     PlanFixture program;
     program.storePlan(program.dayStart(2024, 3, 5), 3, 10, 10);
     const auto record = [&](int day, const char *kind) -> DietDay & {
-        DietDay &made = DietDay::dietDatWithDate(program.dayStart(2024, 3, day), program.context());
+        DietDay &made = *DietDay::dietDatWithDate(program.dayStart(2024, 3, day), program.context()).value();
         if (kind != nullptr)
             made.setValueForKey(true, QLatin1String(kind));
         return made;
@@ -106,7 +106,7 @@ TEST(CalendarMonth, CellsShowPhaseKindJournalAndToday)
     record(11, nullptr).setFeast(false);
     program.context().insert<JornalDay>().setDay(&record(7, nullptr));
     // A day that a step of 86,400 seconds left beside its midnight belongs to no cell.
-    DietDay::dietDatWithDate(program.dayStart(2024, 3, 12).addSecs(3600), program.context()).setChB(true);
+    DietDay::dietDatWithDate(program.dayStart(2024, 3, 12).addSecs(3600), program.context()).value()->setChB(true);
     ASSERT_TRUE(program.context().save());
 
     CalendarMonth model;

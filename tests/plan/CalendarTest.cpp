@@ -179,7 +179,7 @@ TEST(Calendar, KindsExcludeEachOtherAndEmptyDaysGo)
     EXPECT_EQ(at.program.days(), texts({"2024-03-18 00:00 feast"}));
 
     // A kind that is told to be absent, as the screen of a day does, keeps the day until the kinds are written anew.
-    DietDay::dietDatWithDate(at.march(19), at.program.context()).setFeast(false);
+    DietDay::dietDatWithDate(at.march(19), at.program.context()).value()->setFeast(false);
     at.touch(19);
     at.footer().endEditing(1, {});
     EXPECT_NE(at.record(19), nullptr);

@@ -49,7 +49,7 @@ TEST_F(DietDayScreenTest, QuickDishesLiveAndDieWithTheirDay)
     EXPECT_EQ(dishCount(), 2);
     screen->setDate(march(8), attack);
     EXPECT_EQ(dishes(), "");
-    EXPECT_EQ(program.context().fetch<DishInDietDay>().size(), 1U);
+    EXPECT_EQ(program.context().fetchOrLog<DishInDietDay>().size(), 1U);
 }
 
 TEST_F(DietDayScreenTest, AQuickDishNeedsATextAndItsScreen)
@@ -125,7 +125,7 @@ TEST_F(DietDayScreenTest, AQuickDishLeavesItsProductsOnTheShoppingList)
     ASSERT_EQ(cart.size(), 1U);
     ASSERT_NE(cart[0]->ingredient(), nullptr);
     EXPECT_EQ(cart[0]->ingredient()->name(), QStringLiteral("Овёс"));
-    EXPECT_EQ(program.context().fetch<Ingredient>().size(), 1U) << "the others go with their dish";
+    EXPECT_EQ(program.context().fetchOrLog<Ingredient>().size(), 1U) << "the others go with their dish";
 }
 
 TEST_F(DietDayScreenTest, EditingMovesAndRemoves)

@@ -94,7 +94,7 @@ protected:
         request.predicate = attribute("dietDays") == record();
         request.sortDescriptors = {{"displayOrder"}};
         QStringList texts;
-        for (const DishInDietDay *planned : program.context().fetch<DishInDietDay>(request))
+        for (const DishInDietDay *planned : program.context().fetchOrLog<DishInDietDay>(request))
             texts.append(QString::number(planned->displayOrder().value_or(-1)) +
                          (planned->dish() != nullptr ? planned->dish()->nameRU() : QString()));
         return texts.join(u' ').toStdString();
@@ -123,7 +123,8 @@ protected:
         dish.setNameRU(QString::fromUtf8(name));
         dish.setNameENG(QString::fromUtf8(name) + QStringLiteral(" (en)"));
         dish.setDietPeriod(QStringLiteral("0123"));
-        dish.setDishCategory(&DishesCategory::dishCategoryWirhRusName(QStringLiteral("Салаты"), {}, program.context()));
+        dish.setDishCategory(
+            DishesCategory::dishCategoryWirhRusName(QStringLiteral("Салаты"), {}, program.context()).value());
         return dish;
     }
     void plan(const QList<const char *> &names)
@@ -154,7 +155,7 @@ protected:
         alert->setText(name);
         alert->answer(button);
     }
-    [[nodiscard]] int dishCount() { return static_cast<int>(program.context().fetch<Dish>().size()); }
+    [[nodiscard]] int dishCount() { return static_cast<int>(program.context().fetchOrLog<Dish>().size()); }
 
     PlanFixture program;
     Delegate delegate;

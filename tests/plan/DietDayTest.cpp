@@ -55,7 +55,7 @@ TEST_F(DietDayScreenTest, ADayBeforeTheStartShowsNothing)
 
 TEST_F(DietDayScreenTest, KindsExcludeEachOther)
 {
-    DietDay::dietDatWithDate(march(7), program.context()).setChB(true);
+    DietDay::dietDatWithDate(march(7), program.context()).value()->setChB(true);
     open(consolidation);
     EXPECT_EQ(shownKinds(), "100");
     for (const auto &[row, stored, visible] :
@@ -257,7 +257,7 @@ TEST(DietDayStatements, AreAsManyForManyDishes)
         PlanFixture program;
         const QDateTime date = program.dayStart(2024, 3, 7);
         {
-            DietDay &day = DietDay::dietDatWithDate(date, program.context());
+            DietDay &day = *DietDay::dietDatWithDate(date, program.context()).value();
             for (int i = 0; i < dishes; ++i) {
                 auto &dish = program.context().insert<Dish>();
                 dish.setNameRU(QString::number(i));

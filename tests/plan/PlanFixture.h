@@ -40,7 +40,7 @@ public:
         QStringList lines;
         FetchRequest request;
         request.sortDescriptors = {{"date"}};
-        for (const DietDay *day : context().fetch<DietDay>(request)) {
+        for (const DietDay *day : context().fetchOrLog<DietDay>(request)) {
             QString line = day->date()->toTimeZone(calendar().timeZone()).toString(QStringLiteral("yyyy-MM-dd HH:mm"));
             for (const char *kind : {"chB", "bO", "feast"}) {
                 const QVariant value = day->valueForKey(QLatin1String(kind));

@@ -98,7 +98,7 @@ TEST_F(DishChoiceTest, AddModeOffersThePhaseAndMarksWhatTheJournalHas)
 TEST_F(DishChoiceTest, AddModeWithoutAJournalMarksNothing)
 {
     program.placeInJournal(program.dish("б"));
-    DietDay &other = DietDay::dietDatWithDate(program.platform.date(2024, 3, 8), program.context());
+    DietDay &other = *DietDay::dietDatWithDate(program.platform.date(2024, 3, 8), program.context()).value();
     EXPECT_EQ(titles(*std::make_unique<DishesViewController>(0, &other, 0)), QStringLiteral("б ж"));
     EXPECT_EQ(titles(*std::make_unique<DishesViewController>(0, nullptr, 0)), QStringLiteral("б ж"));
     DietDay &day = program.day();

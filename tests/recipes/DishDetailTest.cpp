@@ -24,7 +24,8 @@ struct DishScreen : ShoppingFixture, AddDishDelegate, DeleteDishDelegate
         dish.setRecipeRU(QStringLiteral("Нарезать. Сварить. Подать."));
         dish.setRecipeENG(QStringLiteral("Mix. Bake. Serve."));
         dish.setDietPeriod(QStringLiteral("0, 3"));
-        dish.setDishCategory(&DishesCategory::dishCategoryWirhRusName(QStringLiteral("Первые блюда"), {}, context()));
+        dish.setDishCategory(
+            DishesCategory::dishCategoryWirhRusName(QStringLiteral("Первые блюда"), {}, context()).value());
         for (const char *line : {"- для бульона", "вода - 1 л", "соль"})
             addLine(line, true);
         addLine("water - 1 l", false);
@@ -58,7 +59,7 @@ struct DishScreen : ShoppingFixture, AddDishDelegate, DeleteDishDelegate
     {
         ++deletions;
         EXPECT_TRUE(isOpen()) << "the list hears first";
-        EXPECT_EQ(context().fetch<Dish>().size(), 0U);
+        EXPECT_EQ(context().fetchOrLog<Dish>().size(), 0U);
     }
 
     Dish &dish;
@@ -227,7 +228,7 @@ TEST(DishDetail, DeletesADishOfTheUserWithItsPlacesAndNothingElse)
         if (i == 0)
             row.addDishesInDietDay(planned);
         else
-            DietDay::dietDatWithDate(at.platform.date(2024, 3, i), at.context()).addDishes(planned);
+            DietDay::dietDatWithDate(at.platform.date(2024, 3, i), at.context()).value()->addDishes(planned);
     }
     FavoritesManager::sharedManager().addDishToFavorite(at.dish);
     at.open();
@@ -241,7 +242,7 @@ TEST(DishDetail, DeletesADishOfTheUserWithItsPlacesAndNothingElse)
     EXPECT_EQ(ShoppingFixture::alert()->style(), Alert::Style::ActionSheet);
     ShoppingFixture::answer("Отменить");
     EXPECT_TRUE(at.isOpen());
-    EXPECT_EQ(at.context().fetch<Dish>().size(), 1U);
+    EXPECT_EQ(at.context().fetchOrLog<Dish>().size(), 1U);
 
     at.screen->deleteDishIntro();
     ShoppingFixture::answer("Удалить блюдо");
@@ -250,18 +251,20 @@ TEST(DishDetail, DeletesADishOfTheUserWithItsPlacesAndNothingElse)
     at.window().setRootViewController(nullptr);
     ShoppingFixture::turnEventLoop();
     at.restart();
-    EXPECT_EQ(at.context().fetch<Dish>().size(), 0U);
-    EXPECT_EQ(at.context().fetch<DishInDietDay>().size(), 0U);
-    EXPECT_EQ(at.context().fetch<DietDay>().size(), 2U) << "the days stay";
-    EXPECT_EQ(at.context().fetch<TimeRow>().size(), 1U);
-    EXPECT_TRUE(
-        DishesCategory::dishCategoryWirhRusName(QStringLiteral("Первые блюда"), {}, at.context()).dishes().empty());
+    EXPECT_EQ(at.context().fetchOrLog<Dish>().size(), 0U);
+    EXPECT_EQ(at.context().fetchOrLog<DishInDietDay>().size(), 0U);
+    EXPECT_EQ(at.context().fetchOrLog<DietDay>().size(), 2U) << "the days stay";
+    EXPECT_EQ(at.context().fetchOrLog<TimeRow>().size(), 1U);
+    EXPECT_TRUE(DishesCategory::dishCategoryWirhRusName(QStringLiteral("Первые блюда"), {}, at.context())
+                    .value()
+                    ->dishes()
+                    .empty());
     EXPECT_EQ(FavoritesManager::sharedManager().count(), 1) << "favourites are not touched";
     QStringList cart = at.cart();
     cart.sort();
     EXPECT_EQ(cart, QStringList({utf8("вода"), utf8("соль")})) << "neither is the shopping list";
     at.manager().removeAllPurchaseIngredientsFromCard();
-    EXPECT_EQ(at.context().fetch<Ingredient>().size(), 0U) << "what was of the dish is a typed product now";
+    EXPECT_EQ(at.context().fetchOrLog<Ingredient>().size(), 0U) << "what was of the dish is a typed product now";
 }
 
 TEST(DishDetail, SurvivesTheEndOfItsDish)

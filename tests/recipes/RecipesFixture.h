@@ -50,7 +50,7 @@ public:
     /// The day of 7 March, with a journal.
     DietDay &day()
     {
-        DietDay &found = DietDay::dietDatWithDate(platform.date(2024, 3, 7), context());
+        DietDay &found = *DietDay::dietDatWithDate(platform.date(2024, 3, 7), context()).value();
         if (found.jornalDay() == nullptr)
             context().insert<JornalDay>().setDay(&found);
         return found;

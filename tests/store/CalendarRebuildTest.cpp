@@ -18,7 +18,7 @@ std::vector<QDateTime> attackDays(ManagedObjectContext &context)
     request.predicate = attribute("chB") == true;
     request.sortDescriptors = {{"date"}};
     std::vector<QDateTime> dates;
-    for (const DietDay *day : context.fetch<DietDay>(request))
+    for (const DietDay *day : context.fetchOrLog<DietDay>(request))
         dates.push_back(*day->date());
     return dates;
 }
@@ -39,8 +39,8 @@ TEST(CalendarRebuild, DeletesEarlierDaysAndMarksTheAttackDays)
     EXPECT_FALSE(program.context().hasChanges());
     program.restart();
     EXPECT_THAT(attackDays(program.context()), ElementsAre(start, start.addDays(1), start.addDays(2)));
-    EXPECT_EQ(program.context().fetch<DietDay>().size(), 3U);
-    EXPECT_TRUE(program.context().fetch<DishInDietDay>().empty());
+    EXPECT_EQ(program.context().fetchOrLog<DietDay>().size(), 3U);
+    EXPECT_TRUE(program.context().fetchOrLog<DishInDietDay>().empty());
     EXPECT_EQ(program.weight(start), 80); // a day that existed keeps what it has
 
     // Back by a week: nothing lies before it, and the later Attack days stay as they are.
@@ -68,11 +68,11 @@ TEST(CalendarRebuild, WithoutAttackDaysOrWithoutAStartNothingIsMade)
     program.weigh(day, 80);
     program.defaults().setInteger(5, Keys::kPeriod1Key);
     program.manager().updateSqliteFileForNewStartDietDay();
-    EXPECT_EQ(program.context().fetch<DietDay>().size(), 1U);
+    EXPECT_EQ(program.context().fetchOrLog<DietDay>().size(), 1U);
     program.defaults().setValue(day.addDays(1), Keys::kStartDietDateKey);
     program.defaults().setInteger(0, Keys::kPeriod1Key);
     program.manager().updateSqliteFileForNewStartDietDay();
-    EXPECT_TRUE(program.context().fetch<DietDay>().empty());
+    EXPECT_TRUE(program.context().fetchOrLog<DietDay>().empty());
 }
 
 class CloudChange : public testing::Test

@@ -15,11 +15,11 @@ using testing::ElementsAre;
 Dish &addDish(ManagedObjectContext &context, const char *nameRU, const char *nameENG, const char *periods,
               const char *category)
 {
-    auto &dish = Dish::dishWithID(QString::fromUtf8(nameENG), context);
+    auto &dish = *Dish::dishWithID(QString::fromUtf8(nameENG), context).value();
     dish.setNameRU(QString::fromUtf8(nameRU));
     dish.setNameENG(QString::fromUtf8(nameENG));
     dish.setDietPeriod(QString::fromUtf8(periods));
-    dish.setDishCategory(&DishesCategory::dishCategoryWirhRusName(QString::fromUtf8(category), {}, context));
+    dish.setDishCategory(DishesCategory::dishCategoryWirhRusName(QString::fromUtf8(category), {}, context).value());
     return dish;
 }
 

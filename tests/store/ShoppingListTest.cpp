@@ -34,7 +34,7 @@ struct ShoppingList : StoreFixture
         QStringList names;
         FetchRequest request;
         request.sortDescriptors = {{"name", true}};
-        for (const Ingredient *product : context().fetch<Ingredient>(request))
+        for (const Ingredient *product : context().fetchOrLog<Ingredient>(request))
             names.append(product->name());
         return names;
     }

@@ -57,7 +57,7 @@ public:
 
     void weigh(const QDateTime &date, float weight)
     {
-        DietDay::dietDatWithDate(date, context()).setWeight(weight);
+        DietDay::dietDatWithDate(date, context()).value()->setWeight(weight);
         ASSERT_TRUE(context().save());
     }
     [[nodiscard]] std::optional<float> weight(const QDateTime &date)

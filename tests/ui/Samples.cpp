@@ -89,7 +89,7 @@ void Samples::markDay(int year, int month, int day, const QString &kind, bool jo
     if (DietDay *before = DietDay::dayWithoutCreation(date, context))
         context.deleteObject(*before);
     if (!kind.isEmpty() || jornal) {
-        DietDay &made = DietDay::dietDatWithDate(date, context);
+        DietDay &made = *DietDay::dietDatWithDate(date, context).value();
         if (!kind.isEmpty())
             made.setValueForKey(true, kind);
         if (jornal)

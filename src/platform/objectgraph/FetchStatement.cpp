@@ -9,8 +9,6 @@ namespace kesto
 namespace
 {
 
-std::string quoted(const std::string &name) { return '"' + name + '"'; }
-
 const std::string &columnName(const EntityDescription &entity, PropertyReference property)
 {
     const auto slot = static_cast<size_t>(property.slot);
@@ -23,7 +21,7 @@ struct ResolvedPath
 {
     const RelationshipDescription *relationship = nullptr;
     const EntityDescription *entity = nullptr;
-    PropertyReference property;
+    std::optional<PropertyReference> property;
 };
 
 ResolvedPath resolve(const EntityDescription &entity, std::string_view path)
@@ -31,10 +29,10 @@ ResolvedPath resolve(const EntityDescription &entity, std::string_view path)
     ResolvedPath resolved;
     resolved.entity = &entity;
     if (const size_t point = path.find('.'); point != std::string_view::npos) {
-        const PropertyReference first = entity.property(path.substr(0, point));
-        if (first.kind != PropertyReference::Kind::ToOne)
+        const auto first = entity.property(path.substr(0, point));
+        if (!first || first->kind != PropertyReference::Kind::ToOne)
             return resolved;
-        resolved.relationship = &entity.toOneRelationships()[static_cast<size_t>(first.slot)];
+        resolved.relationship = &entity.toOneRelationships()[static_cast<size_t>(first->slot)];
         resolved.entity = resolved.relationship->destinationEntity;
         path = path.substr(point + 1);
     }
@@ -71,11 +69,14 @@ FetchStatement::FetchStatement(const EntityDescription &entity, const FetchReque
     if (request.predicate.node() != nullptr)
         addShape(*request.predicate.node());
     for (const SortDescriptor &sort : request.sortDescriptors) {
-        const PropertyReference property = entity.property(sort.key);
-        if (property.kind != PropertyReference::Kind::Attribute)
+        const auto property = entity.property(sort.key);
+        if (!property || property->kind != PropertyReference::Kind::Attribute) {
             problem_ = entity.name() + " can't be sorted by " + sort.key;
+            return;
+        }
         key_ += sort.ascending ? 'a' : 'd';
-        key_ += static_cast<char>(property.slot);
+        key_ += static_cast<char>(property->slot);
+        sortKeys_.emplace_back(property->slot, sort.ascending);
     }
 }
 
@@ -89,20 +90,19 @@ void FetchStatement::addShape(const Predicate::Node &node)
         return;
     }
     const ResolvedPath path = resolve(entity_, node.path);
-    if (path.property.kind != PropertyReference::Kind::Attribute &&
-        path.property.kind != PropertyReference::Kind::ToOne) {
+    if (!path.property || path.property->kind == PropertyReference::Kind::ToMany) {
         problem_ = entity_.name() + " has no value at " + node.path;
         return;
     }
-    if (!canCompare(node, *path.entity, path.property)) {
+    if (!canCompare(node, *path.entity, *path.property)) {
         problem_ = entity_.name() + " can't be compared so at " + node.path;
         return;
     }
     key_ += 'c';
     key_ += static_cast<char>(node.operation);
-    key_ += static_cast<char>(path.property.kind);
+    key_ += static_cast<char>(path.property->kind);
     key_ += static_cast<char>(path.relationship != nullptr ? path.relationship->slot : -1);
-    key_ += static_cast<char>(path.property.slot);
+    key_ += static_cast<char>(path.property->slot);
     if (node.operation == Predicate::Operation::In)
         key_ += std::to_string(node.list.size()) + ';';
     if (path.relationship != nullptr && std::find(others_.begin(), others_.end(), path.entity) == others_.end())
@@ -171,7 +171,7 @@ void FetchStatement::addSql(const Predicate::Node &node, bool positive, std::str
         break;
     }
     const ResolvedPath path = resolve(entity_, node.path);
-    const std::string column = quoted(columnName(*path.entity, path.property));
+    const std::string column = quoted(columnName(*path.entity, *path.property));
     if (path.relationship == nullptr) {
         addComparison(node, column, sql);
         return;

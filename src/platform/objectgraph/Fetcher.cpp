@@ -13,8 +13,6 @@ namespace kesto
 namespace
 {
 
-std::string quoted(const std::string &name) { return '"' + name + '"'; }
-
 /// A JSON array of keys: one bound value for any number of them, so that one prepared statement serves all.
 QByteArray keyList(const std::vector<ManagedObject *> &objects)
 {
@@ -25,6 +23,12 @@ QByteArray keyList(const std::vector<ManagedObject *> &objects)
     if (list.size() > 1)
         list.chop(1);
     return list.append(']');
+}
+
+tl::unexpected<Error> noStore(const EntityDescription &entity)
+{
+    return failure(QStringLiteral("cannot read %1").arg(QString::fromStdString(entity.name())), {},
+                   QStringLiteral("no persistent store is attached"));
 }
 
 } // namespace
@@ -39,45 +43,62 @@ std::string Fetcher::columns(const EntityDescription &entity)
     return list;
 }
 
-std::vector<ManagedObject *> Fetcher::fetch(const EntityDescription &entity, const FetchRequest &request,
-                                            StoreError *error)
+Error Fetcher::readError(const EntityDescription &entity) const
+{
+    return store_->error(QStringLiteral("cannot read %1").arg(QString::fromStdString(entity.name())));
+}
+
+template <class Take>
+Result<void> Fetcher::readObjects(SqlStatement &statement, const EntityDescription &entity, const Take &take)
+{
+    int result = statement ? statement.step() : SQLITE_ERROR;
+    for (; result == SQLITE_ROW; result = statement.step()) {
+        ManagedObject *object = context_.materialise(entity, statement);
+        if (object == nullptr)
+            break;
+        take(object);
+    }
+    return result == SQLITE_DONE ? Result<void>() : tl::unexpected(readError(entity));
+}
+
+Result<std::vector<ManagedObject *>> Fetcher::fetch(const EntityDescription &entity, const FetchRequest &request)
 {
     // What is fetched along is found through the values of every row, so those are read at once.
     const bool keysOnly = request.fetchBatchSize > 0 && request.relationshipKeyPathsForPrefetching.empty();
     const FetchStatement statement(entity, request, keysOnly);
-    if (!statement.isValid()) {
-        if (error != nullptr)
-            *error = {0, QString::fromStdString(statement.problem())};
-        return {};
-    }
+    if (!statement.isValid())
+        return failure(QStringLiteral("cannot fetch"), {}, QString::fromStdString(statement.problem()));
     const size_t unsaved = context_.objectsOf(entity).changed.size();
     // Where the condition looks at other objects that have unsaved changes, the store can't decide it.
     const bool everything =
         std::any_of(statement.otherEntities().begin(), statement.otherEntities().end(),
                     [&](const EntityDescription *other) { return !context_.objectsOf(*other).changed.empty(); });
 
-    std::vector<ManagedObject *> found;
+    Result<std::vector<ManagedObject *>> found;
     if (store_ != nullptr) {
         const auto limit = static_cast<qint64>(request.fetchLimit);
         const FetchRequest all;
-        const bool read = everything ? readRows(FetchStatement(entity, all, false), entity, false, -1, found, error)
-                                     : readRows(statement, entity, keysOnly,
-                                                limit > 0 ? limit + static_cast<qint64>(unsaved) : -1, found, error);
-        if (!read)
-            return {};
+        found = everything
+                    ? readRows(FetchStatement(entity, all, false), entity, false, -1)
+                    : readRows(statement, entity, keysOnly, limit > 0 ? limit + static_cast<qint64>(unsaved) : -1);
+        if (!found)
+            return found;
     }
     if (unsaved > 0 || everything)
-        addUnsaved(entity, request, everything, found);
-    if (request.fetchLimit > 0 && found.size() > static_cast<size_t>(request.fetchLimit))
-        found.resize(static_cast<size_t>(request.fetchLimit));
-    if (!request.relationshipKeyPathsForPrefetching.empty())
-        prefetch(entity, found, request.relationshipKeyPathsForPrefetching);
+        addUnsaved(entity, statement, request, everything, *found);
+    if (request.fetchLimit > 0 && found->size() > static_cast<size_t>(request.fetchLimit))
+        found->resize(static_cast<size_t>(request.fetchLimit));
+    if (!request.relationshipKeyPathsForPrefetching.empty()) {
+        if (auto read = prefetch(entity, *found, request.relationshipKeyPathsForPrefetching); !read)
+            return tl::unexpected(std::move(read.error()));
+    }
     return found;
 }
 
-bool Fetcher::readRows(const FetchStatement &request, const EntityDescription &entity, bool keysOnly, qint64 limit,
-                       std::vector<ManagedObject *> &found, StoreError *error)
+Result<std::vector<ManagedObject *>> Fetcher::readRows(const FetchStatement &request, const EntityDescription &entity,
+                                                       bool keysOnly, qint64 limit)
 {
+    std::vector<ManagedObject *> found;
     SqlStatement statement = store_->statement(request.key(), [&] { return request.sql(); });
     int result = SQLITE_ERROR;
     if (statement) {
@@ -86,15 +107,14 @@ bool Fetcher::readRows(const FetchStatement &request, const EntityDescription &e
         while (result == SQLITE_ROW) {
             found.push_back(keysOnly ? context_.objectFor(entity, sqlite3_column_int64(statement.get(), 0))
                                      : context_.materialise(entity, statement));
+            if (found.back() == nullptr)
+                break;
             // The last row that may come needs no look behind it.
             result = static_cast<qint64>(found.size()) == limit ? SQLITE_DONE : statement.step();
         }
     }
-    if (result != SQLITE_DONE) {
-        if (error != nullptr)
-            *error = store_->lastError();
-        return false;
-    }
+    if (result != SQLITE_DONE)
+        return tl::unexpected(readError(entity));
     if (keysOnly) {
         auto batch = std::make_shared<ManagedObjectContext::Batch>(found);
         for (const ManagedObject *object : found) {
@@ -102,11 +122,11 @@ bool Fetcher::readRows(const FetchStatement &request, const EntityDescription &e
                 context_.objectsOf(entity).batches.insert(object->objectID(), batch);
         }
     }
-    return true;
+    return found;
 }
 
-void Fetcher::addUnsaved(const EntityDescription &entity, const FetchRequest &request, bool everything,
-                         std::vector<ManagedObject *> &found)
+void Fetcher::addUnsaved(const EntityDescription &entity, const FetchStatement &statement, const FetchRequest &request,
+                         bool everything, std::vector<ManagedObject *> &found)
 {
     std::erase_if(found, [&](const ManagedObject *object) {
         return object->listed_ || (everything && !matches(request.predicate, *object));
@@ -115,11 +135,8 @@ void Fetcher::addUnsaved(const EntityDescription &entity, const FetchRequest &re
         if (!object->isDeleted() && matches(request.predicate, *object))
             found.push_back(object);
     }
-    std::vector<std::pair<int, bool>> keys;
-    for (const SortDescriptor &sort : request.sortDescriptors)
-        keys.emplace_back(entity.property(sort.key).slot, sort.ascending);
     std::sort(found.begin(), found.end(), [&](const ManagedObject *left, const ManagedObject *right) {
-        for (const auto &[slot, ascending] : keys) {
+        for (const auto &[slot, ascending] : statement.sortKeys()) {
             if (const int order = compareValues(left->attributeAt(slot), right->attributeAt(slot)); order != 0)
                 return ascending ? order < 0 : order > 0;
         }
@@ -127,19 +144,19 @@ void Fetcher::addUnsaved(const EntityDescription &entity, const FetchRequest &re
     });
 }
 
-void Fetcher::readFaults(const EntityDescription &entity, const std::vector<ManagedObject *> &faults)
+Result<void> Fetcher::readFaults(const EntityDescription &entity, const std::vector<ManagedObject *> &faults)
 {
-    if (store_ == nullptr || faults.empty())
-        return;
+    if (faults.empty())
+        return {};
+    if (store_ == nullptr)
+        return noStore(entity);
     const std::string table = quoted(entity.name());
     SqlStatement statement = store_->statement("r" + QByteArray(1, static_cast<char>(entity.index())), [&] {
         return "SELECT " + columns(entity) + " FROM " + table + " WHERE \"_pk\" IN (SELECT value FROM json_each(?))";
     });
-    if (!statement)
-        return;
-    statement.bindUtf8(1, keyList(faults));
-    while (statement.step() == SQLITE_ROW)
-        context_.materialise(entity, statement);
+    if (statement)
+        statement.bindUtf8(1, keyList(faults));
+    return readObjects(statement, entity, [](ManagedObject * /*read*/) {});
 }
 
 // What the store says, less what changed in memory since; what was added in memory stands in the set already.
@@ -158,31 +175,34 @@ void Fetcher::adopt(ManagedObject &owner, const RelationshipDescription &relatio
         row->toOne_[relationship.inverseSlot].object = &owner;
     link.members = std::move(rows);
     link.loaded = true;
+    link.unreadable = false;
 }
 
-void Fetcher::readToMany(ManagedObject &owner, const RelationshipDescription &relationship)
+Result<void> Fetcher::readToMany(ManagedObject &owner, const RelationshipDescription &relationship)
 {
     std::vector<ManagedObject *> rows;
-    if (store_ != nullptr && !owner.isInserted()) {
+    if (!owner.isInserted()) {
         const EntityDescription &destination = *relationship.destinationEntity;
+        if (store_ == nullptr)
+            return noStore(destination);
         QByteArray key("m");
         key.append(static_cast<char>(destination.index())).append(static_cast<char>(relationship.inverseSlot));
         SqlStatement statement = store_->statement(key, [&] {
             return "SELECT " + columns(destination) + " FROM " + quoted(destination.name()) + " WHERE " +
                    quoted(relationship.inverse) + " = ? ORDER BY \"_pk\"";
         });
-        if (statement) {
+        if (statement)
             statement.bind(1, owner.objectID());
-            while (statement.step() == SQLITE_ROW)
-                rows.push_back(context_.materialise(destination, statement));
-        }
+        if (auto read = readObjects(statement, destination, [&](ManagedObject *row) { rows.push_back(row); }); !read)
+            return read;
     }
     adopt(owner, relationship, std::move(rows));
+    return {};
 }
 
-void Fetcher::prefetchToMany(const EntityDescription &destination,
-                             const std::vector<const RelationshipDescription *> &relationships,
-                             const std::vector<ManagedObject *> &owners)
+Result<void> Fetcher::prefetchToMany(const EntityDescription &destination,
+                                     const std::vector<const RelationshipDescription *> &relationships,
+                                     const std::vector<ManagedObject *> &owners)
 {
     QByteArray key("p");
     key.append(static_cast<char>(destination.index()));
@@ -198,16 +218,14 @@ void Fetcher::prefetchToMany(const EntityDescription &destination,
         }
         return sql;
     });
-    if (!statement)
-        return; // each set is then read when it is touched
-    statement.bindUtf8(1, keyList(owners));
+    if (statement)
+        statement.bindUtf8(1, keyList(owners));
     std::vector<std::vector<ManagedObject *>> rows(relationships.size());
-    int result = statement.step();
-    for (; result == SQLITE_ROW; result = statement.step())
-        rows[static_cast<size_t>(sqlite3_column_int(statement.get(), destination.columnCount() + 1))].push_back(
-            context_.materialise(destination, statement));
-    if (result != SQLITE_DONE)
-        return;
+    const auto take = [&](ManagedObject *row) {
+        rows[static_cast<size_t>(sqlite3_column_int(statement.get(), destination.columnCount() + 1))].push_back(row);
+    };
+    if (auto read = readObjects(statement, destination, take); !read)
+        return read;
     const auto inOrder = [](const ManagedObject *left, const ManagedObject *right) {
         return left->objectID() < right->objectID();
     };
@@ -228,13 +246,14 @@ void Fetcher::prefetchToMany(const EntityDescription &destination,
             adopt(*owner, relationship, std::move(members));
         }
     }
+    return {};
 }
 
-void Fetcher::prefetch(const EntityDescription &entity, const std::vector<ManagedObject *> &objects,
-                       const std::vector<std::string> &paths)
+Result<void> Fetcher::prefetch(const EntityDescription &entity, const std::vector<ManagedObject *> &objects,
+                               const std::vector<std::string> &paths)
 {
     if (store_ == nullptr || objects.empty())
-        return;
+        return {};
     std::map<std::string, std::vector<std::string>> levels; // first step -> what follows it
     for (const std::string &path : paths) {
         const size_t point = path.find('.');
@@ -257,10 +276,13 @@ void Fetcher::prefetch(const EntityDescription &entity, const std::vector<Manage
             if (target != nullptr && target->state_ == ManagedObject::State::Fault)
                 faults.push_back(target);
         }
-        readFaults(*relationship->destinationEntity, faults);
+        if (auto read = readFaults(*relationship->destinationEntity, faults); !read)
+            return read;
     }
-    for (const auto &[destination, relationships] : toMany)
-        prefetchToMany(*destination, relationships, objects);
+    for (const auto &[destination, relationships] : toMany) {
+        if (auto read = prefetchToMany(*destination, relationships, objects); !read)
+            return read;
+    }
     for (const auto &[name, rest] : levels) {
         const RelationshipDescription *relationship = entity.relationship(name);
         if (relationship == nullptr || rest.empty())
@@ -273,8 +295,10 @@ void Fetcher::prefetch(const EntityDescription &entity, const std::vector<Manage
             } else if (ManagedObject *target = object->toOne(relationship->slot))
                 next.push_back(target);
         }
-        prefetch(*relationship->destinationEntity, next, rest);
+        if (auto read = prefetch(*relationship->destinationEntity, next, rest); !read)
+            return read;
     }
+    return {};
 }
 
 } // namespace kesto

@@ -5,6 +5,7 @@
 #include <QByteArray>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kesto
@@ -27,6 +28,8 @@ public:
     }
     [[nodiscard]] std::string sql() const;
     void bind(SqlStatement &statement, qint64 limit) const;
+    /// The slots of the attributes to sort by, and whether ascending.
+    [[nodiscard]] const std::vector<std::pair<int, bool>> &sortKeys() const { return sortKeys_; }
     /// The entities behind relationships that the predicate looks at.
     [[nodiscard]] const std::vector<const EntityDescription *> &otherEntities() const { return others_; }
 
@@ -41,6 +44,7 @@ private:
     bool keysOnly_;
     std::string key_; // short ones need no allocation
     std::string problem_;
+    std::vector<std::pair<int, bool>> sortKeys_;
     std::vector<const EntityDescription *> others_;
 };
 
@@ -54,26 +58,30 @@ public:
     {
     }
 
-    [[nodiscard]] std::vector<ManagedObject *> fetch(const EntityDescription &entity, const FetchRequest &request,
-                                                     StoreError *error);
-    /// Reads the values of faults of one entity with one statement.
-    void readFaults(const EntityDescription &entity, const std::vector<ManagedObject *> &faults);
+    [[nodiscard]] Result<std::vector<ManagedObject *>> fetch(const EntityDescription &entity,
+                                                             const FetchRequest &request);
+    /// Reads the values of faults of one entity with one statement. A fault without a row stays a fault.
+    [[nodiscard]] Result<void> readFaults(const EntityDescription &entity, const std::vector<ManagedObject *> &faults);
     /// Reads the objects of a to-many relationship of one owner.
-    void readToMany(ManagedObject &owner, const RelationshipDescription &relationship);
+    [[nodiscard]] Result<void> readToMany(ManagedObject &owner, const RelationshipDescription &relationship);
 
     /// The SELECT list of an entity: the key and every column.
     static std::string columns(const EntityDescription &entity);
 
 private:
-    [[nodiscard]] bool readRows(const FetchStatement &request, const EntityDescription &entity, bool keysOnly,
-                                qint64 limit, std::vector<ManagedObject *> &found, StoreError *error);
-    void addUnsaved(const EntityDescription &entity, const FetchRequest &request, bool everything,
-                    std::vector<ManagedObject *> &found);
-    void prefetch(const EntityDescription &entity, const std::vector<ManagedObject *> &objects,
-                  const std::vector<std::string> &paths);
-    void prefetchToMany(const EntityDescription &destination,
-                        const std::vector<const RelationshipDescription *> &relationships,
-                        const std::vector<ManagedObject *> &owners);
+    [[nodiscard]] Result<std::vector<ManagedObject *>>
+    readRows(const FetchStatement &request, const EntityDescription &entity, bool keysOnly, qint64 limit);
+    /// Runs a statement to its end and hands each of its rows, as an object, to `take`.
+    template <class Take>
+    [[nodiscard]] Result<void> readObjects(SqlStatement &statement, const EntityDescription &entity, const Take &take);
+    [[nodiscard]] Error readError(const EntityDescription &entity) const;
+    void addUnsaved(const EntityDescription &entity, const FetchStatement &statement, const FetchRequest &request,
+                    bool everything, std::vector<ManagedObject *> &found);
+    [[nodiscard]] Result<void> prefetch(const EntityDescription &entity, const std::vector<ManagedObject *> &objects,
+                                        const std::vector<std::string> &paths);
+    [[nodiscard]] Result<void> prefetchToMany(const EntityDescription &destination,
+                                              const std::vector<const RelationshipDescription *> &relationships,
+                                              const std::vector<ManagedObject *> &owners);
     static void adopt(ManagedObject &owner, const RelationshipDescription &relationship,
                       std::vector<ManagedObject *> rows);
 

@@ -9,24 +9,32 @@
 namespace kesto
 {
 
-void ManagedObject::fire() const
+bool ManagedObject::fire() const
 {
-    if (state_ == State::Fault)
+    if (state_ == State::Fault && !unreadable_)
         context_.fireFault(const_cast<ManagedObject &>(*this)); // reading a value is not a change
+    return state_ != State::Fault;
 }
 
-bool ManagedObject::beginChange(int column)
+bool ManagedObject::canChange() const
 {
-    fire();
+    if (!fire()) {
+        context_.refuseChange(*this);
+        return false;
+    }
     if (isDeleted()) {
         log("%@ %ld was deleted and can't be changed", QString::fromStdString(entity_.name()), id_);
         return false;
     }
+    return true;
+}
+
+void ManagedObject::noteChange(int column)
+{
     changedColumns_ |= quint64(1) << column;
     if (state_ == State::Clean)
         state_ = State::Updated;
     context_.noteChange(*this);
-    return true;
 }
 
 const AttributeValue &ManagedObject::attributeAt(int slot) const
@@ -37,11 +45,11 @@ const AttributeValue &ManagedObject::attributeAt(int slot) const
 
 void ManagedObject::setAttribute(int slot, AttributeValue value)
 {
-    fire();
     if (const auto *number = std::get_if<double>(&value); number != nullptr && std::isnan(*number))
         value = AttributeValue(); // the store can't keep it
-    if (values_[slot] == value || !beginChange(slot))
+    if ((fire() && values_[slot] == value) || !canChange())
         return;
+    noteChange(slot);
     values_[slot] = std::move(value);
 }
 
@@ -58,7 +66,7 @@ ManagedObject *ManagedObject::toOne(int slot) const
 void ManagedObject::setToOne(int slot, ManagedObject *object)
 {
     ManagedObject *old = toOne(slot);
-    if (old == object)
+    if (old == object && fire())
         return;
     if (object != nullptr && object->isDeleted()) {
         log("%@ %ld was deleted and can't be linked", QString::fromStdString(object->entity_.name()), object->id_);
@@ -66,13 +74,34 @@ void ManagedObject::setToOne(int slot, ManagedObject *object)
     }
     const RelationshipDescription &relationship = entity_.toOneRelationships()[static_cast<size_t>(slot)];
     Q_ASSERT(object == nullptr || &object->entity_ == relationship.destinationEntity);
-    if (!beginChange(static_cast<int>(entity_.attributes().size()) + slot))
+    if (!canChange() || !canLink(relationship, old, object))
         return;
+    noteChange(static_cast<int>(entity_.attributes().size()) + slot);
     toOne_[slot] = {object != nullptr ? object->id_ : 0, object};
     if (old != nullptr)
         unlink(relationship, old);
     if (object != nullptr)
         link(relationship, object);
+}
+
+bool ManagedObject::canLink(const RelationshipDescription &relationship, ManagedObject *old,
+                            ManagedObject *object) const
+{
+    const int inverse = relationship.inverseSlot;
+    const ManagedObject *unreadable = nullptr;
+    if (relationship.inverseToMany) {
+        if (object != nullptr && object->toMany_[inverse].unreadable)
+            unreadable = object;
+    } else {
+        ManagedObject *before = object != nullptr ? object->toOne(inverse) : nullptr; // loses its partner
+        for (const ManagedObject *partner : {old, object, before}) {
+            if (partner != nullptr && !partner->fire())
+                unreadable = partner;
+        }
+    }
+    if (unreadable != nullptr)
+        context_.refuseChange(*unreadable);
+    return unreadable == nullptr;
 }
 
 // The other side follows. A to-many side only needs the change in memory: its rows are found through this side.
@@ -100,7 +129,7 @@ void ManagedObject::unlink(const RelationshipDescription &relationship, ManagedO
 ManagedObject::ToManyLink &ManagedObject::loadedToMany(int slot) const
 {
     ToManyLink &link = toMany_[slot];
-    if (!link.loaded)
+    if (!link.loaded && !link.unreadable)
         context_.loadToMany(const_cast<ManagedObject &>(*this), slot);
     return link;
 }
@@ -119,39 +148,47 @@ void ManagedObject::removeFromMany(int slot, ManagedObject *object)
     const int inverse = entity_.toManyRelationships()[static_cast<size_t>(slot)].inverseSlot;
     if (object->toOne(inverse) == this)
         object->setToOne(inverse, nullptr);
+    else if (!object->fire())
+        context_.refuseChange(*object);
 }
 
 QVariant ManagedObject::valueForKey(const QString &key) const
 {
-    const PropertyReference property = entity_.property(key.toStdString());
-    switch (property.kind) {
+    const auto property = entity_.property(key.toStdString());
+    if (!property) {
+        log("%@ has no key - %@", QString::fromStdString(entity_.name()), key);
+        return {};
+    }
+    switch (property->kind) {
     case PropertyReference::Kind::Attribute:
-        return toVariant(entity_.attributes()[static_cast<size_t>(property.slot)].type, attributeAt(property.slot));
+        return toVariant(entity_.attributes()[static_cast<size_t>(property->slot)].type, attributeAt(property->slot));
     case PropertyReference::Kind::ToOne: {
-        ManagedObject *object = toOne(property.slot);
+        ManagedObject *object = toOne(property->slot);
         return object != nullptr ? QVariant::fromValue(object) : QVariant();
     }
     case PropertyReference::Kind::ToMany: {
-        const auto members = toMany(property.slot);
+        const auto members = toMany(property->slot);
         return QVariant::fromValue(QList<ManagedObject *>(members.begin(), members.end()));
     }
-    case PropertyReference::Kind::None:
-        break;
     }
-    log("%@ has no key - %@", QString::fromStdString(entity_.name()), key);
     return {};
 }
 
 bool ManagedObject::setValueForKey(const QVariant &value, const QString &key)
 {
-    const PropertyReference property = entity_.property(key.toStdString());
+    const auto property = entity_.property(key.toStdString());
+    if (!property) {
+        log("%@ has no key - %@", QString::fromStdString(entity_.name()), key);
+        return false;
+    }
+    const auto slot = static_cast<size_t>(property->slot);
     const auto fits = [](const ManagedObject *object, const EntityDescription *entity) {
         return object == nullptr || &object->entity() == entity;
     };
-    switch (property.kind) {
+    switch (property->kind) {
     case PropertyReference::Kind::Attribute:
-        if (auto stored = attributeValue(entity_.attributes()[static_cast<size_t>(property.slot)].type, value)) {
-            setAttribute(property.slot, std::move(*stored));
+        if (auto stored = attributeValue(entity_.attributes()[slot].type, value)) {
+            setAttribute(property->slot, std::move(*stored));
             return true;
         }
         break;
@@ -159,31 +196,32 @@ bool ManagedObject::setValueForKey(const QVariant &value, const QString &key)
         if (value.isValid() && !value.canConvert<ManagedObject *>())
             break;
         auto *object = value.value<ManagedObject *>();
-        if (!fits(object, entity_.toOneRelationships()[static_cast<size_t>(property.slot)].destinationEntity))
+        if (!fits(object, entity_.toOneRelationships()[slot].destinationEntity))
             break;
-        setToOne(property.slot, object);
+        setToOne(property->slot, object);
         return true;
     }
     case PropertyReference::Kind::ToMany: {
-        const EntityDescription *destination =
-            entity_.toManyRelationships()[static_cast<size_t>(property.slot)].destinationEntity;
+        const EntityDescription *destination = entity_.toManyRelationships()[slot].destinationEntity;
         if (value.isValid() && !value.canConvert<QList<ManagedObject *>>())
             break;
         const auto wanted = value.value<QList<ManagedObject *>>();
         if (!std::all_of(wanted.begin(), wanted.end(),
                          [&](const ManagedObject *object) { return object != nullptr && fits(object, destination); }))
             break;
-        for (ManagedObject *member : toMany(property.slot)) {
+        const auto before = toMany(property->slot);
+        if (toMany_[slot].unreadable) {
+            context_.refuseChange(*this);
+            return false;
+        }
+        for (ManagedObject *member : before) {
             if (!wanted.contains(member))
-                removeFromMany(property.slot, member);
+                removeFromMany(property->slot, member);
         }
         for (ManagedObject *object : wanted)
-            addToMany(property.slot, object);
+            addToMany(property->slot, object);
         return true;
     }
-    case PropertyReference::Kind::None:
-        log("%@ has no key - %@", QString::fromStdString(entity_.name()), key);
-        return false;
     }
     log("%@ can't hold such a value for the key - %@", QString::fromStdString(entity_.name()), key);
     return false;

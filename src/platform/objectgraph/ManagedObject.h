@@ -15,9 +15,13 @@ namespace kesto
 {
 
 /// One object of the graph: one row of the store, the same object for the whole life of its context. The context owns
-/// it; a pointer stays valid until the context is destroyed, also after the object was deleted (isDeleted() then,
-/// writes are refused and logged). Values and relationships are read from the store when they are first touched. Main
-/// thread only.
+/// it; a pointer stays valid until the context is destroyed, also after the object was deleted (isDeleted() is then
+/// true, and changes are refused and logged). Main thread only.
+///
+/// Values and relationships are read from the store when they are first used. When that read fails, it is logged, the
+/// value is absent or the set holds only what was added in memory, and nothing of it is kept. Until the next save ends,
+/// the object (or the set) counts as unreadable: changes of it are refused and make that save fail, so that nothing is
+/// decided by values that are missing. A later use reads again.
 class ManagedObject : public KeyValueCoding
 {
 public:
@@ -61,6 +65,7 @@ protected:
     struct ToManyLink
     {
         bool loaded = false;
+        bool unreadable = false;              ///< the last read failed
         std::vector<ManagedObject *> members; ///< while not loaded: those added in memory
     };
 
@@ -87,8 +92,13 @@ private:
     /// Fault: the row's values are not read yet. Gone: deleted and saved, or deleted before it was ever saved.
     enum class State : quint8 { Fault, Clean, Inserted, Updated, Deleted, Gone };
 
-    void fire() const;
-    bool beginChange(int column);
+    /// Reads the values unless they are there. False when they can't be read.
+    bool fire() const;
+    [[nodiscard]] bool canChange() const;
+    /// Whether all objects can be read that setToOne() has to change.
+    [[nodiscard]] bool canLink(const RelationshipDescription &relationship, ManagedObject *old,
+                               ManagedObject *object) const;
+    void noteChange(int column);
     ToManyLink &loadedToMany(int slot) const;
     void link(const RelationshipDescription &relationship, ManagedObject *object);
     void unlink(const RelationshipDescription &relationship, ManagedObject *object);
@@ -98,7 +108,8 @@ private:
     qint64 id_;
     quint64 changedColumns_ = 0; ///< bit i: column i behind the key differs from the store
     State state_ = State::Fault;
-    bool listed_ = false; ///< the context has it among the objects to save
+    bool listed_ = false;             ///< the context has it among the objects to save
+    mutable bool unreadable_ = false; ///< the last read of its values failed
     AttributeValue *values_ = nullptr;
     ToOneLink *toOne_ = nullptr;
     ToManyLink *toMany_ = nullptr;

@@ -85,17 +85,61 @@ void ManagedObjectContext::noteChange(ManagedObject &object)
     objectsOf(object.entity()).changed.push_back(&object);
 }
 
+bool ManagedObjectContext::readForDeletion(ManagedObject &object, QSet<ManagedObject *> &visited)
+{
+    if (visited.contains(&object))
+        return true;
+    visited.insert(&object);
+    bool readable = object.fire();
+    if (object.isDeleted())
+        return true;
+    for (const RelationshipDescription &relationship : object.entity().toManyRelationships()) {
+        if (!readable)
+            break;
+        const std::vector<ManagedObject *> members = object.toMany(relationship.slot);
+        readable = !object.toMany_[relationship.slot].unreadable;
+        if (!readable || relationship.deleteRule != DeleteRule::Cascade)
+            continue;
+        if (!std::all_of(members.begin(), members.end(),
+                         [&](ManagedObject *member) { return readForDeletion(*member, visited); }))
+            return false;
+    }
+    if (!readable) {
+        refuseChange(object);
+        return false;
+    }
+    for (const RelationshipDescription &relationship : object.entity().toOneRelationships()) {
+        ManagedObject *target = object.toOne(relationship.slot);
+        if (target == nullptr)
+            continue;
+        if (relationship.deleteRule == DeleteRule::Cascade) {
+            if (!readForDeletion(*target, visited))
+                return false;
+        } else if (!relationship.inverseToMany && !target->fire()) {
+            refuseChange(*target);
+            return false;
+        }
+    }
+    return true;
+}
+
 void ManagedObjectContext::deleteObject(ManagedObject &object)
+{
+    if (QSet<ManagedObject *> visited; readForDeletion(object, visited))
+        unlinkAndDelete(object);
+}
+
+// Reads nothing any more, so it can't fail half-way.
+void ManagedObjectContext::unlinkAndDelete(ManagedObject &object)
 {
     if (object.isDeleted())
         return;
-    object.fire();
     const bool wasInserted = object.isInserted();
     for (const RelationshipDescription &relationship : object.entity().toManyRelationships()) {
         for (ManagedObject *member : object.toMany(relationship.slot)) {
             member->setToOne(relationship.inverseSlot, nullptr);
             if (relationship.deleteRule == DeleteRule::Cascade)
-                deleteObject(*member);
+                unlinkAndDelete(*member);
         }
     }
     for (const RelationshipDescription &relationship : object.entity().toOneRelationships()) {
@@ -104,7 +148,7 @@ void ManagedObjectContext::deleteObject(ManagedObject &object)
             continue;
         object.setToOne(relationship.slot, nullptr);
         if (relationship.deleteRule == DeleteRule::Cascade)
-            deleteObject(*target);
+            unlinkAndDelete(*target);
     }
     noteChange(object);
     object.state_ = wasInserted ? ManagedObject::State::Gone : ManagedObject::State::Deleted;
@@ -112,14 +156,21 @@ void ManagedObjectContext::deleteObject(ManagedObject &object)
         objectsOf(object.entity()).registered.remove(object.id_);
 }
 
-std::vector<ManagedObject *> ManagedObjectContext::fetch(const EntityDescription &entity, const FetchRequest &request,
-                                                         StoreError *error)
+Result<std::vector<ManagedObject *>> ManagedObjectContext::fetch(const EntityDescription &entity,
+                                                                 const FetchRequest &request)
 {
     if (request.fetchBatchSize > 0)
         objectsOf(entity).batchSize = request.fetchBatchSize;
     const auto access = coordinator_.access();
-    return Fetcher(*this, access.store()).fetch(entity, request, error);
+    const int failedBefore = failedReads_;
+    auto found = Fetcher(*this, access.store()).fetch(entity, request);
+    // A condition or a path may have led to an object that could not be read.
+    if (found && failedReads_ != failedBefore)
+        return tl::unexpected(*lastFailedRead_);
+    return found;
 }
+
+void ManagedObjectContext::logFailedFetch(const Error &error) { log("error while fetching - %@", error.message()); }
 
 ManagedObject *ManagedObjectContext::materialise(const EntityDescription &entity, SqlStatement &row)
 {
@@ -128,8 +179,9 @@ ManagedObject *ManagedObjectContext::materialise(const EntityDescription &entity
     ManagedObject *object = objectFor(entity, id);
     if (object->state_ != ManagedObject::State::Fault)
         return object;
+    const size_t attributes = entity.attributes().size();
     int column = 1;
-    for (size_t slot = 0; slot < entity.attributes().size(); ++slot, ++column) {
+    for (size_t slot = 0; slot < attributes; ++slot, ++column) {
         AttributeValue &value = object->values_[slot];
         sqlite3_value *stored = sqlite3_column_value(statement, column); // found once, asked for its type and content
         switch (sqlite3_value_type(stored)) {
@@ -141,6 +193,10 @@ ManagedObject *ManagedObjectContext::materialise(const EntityDescription &entity
             break;
         case SQLITE_TEXT: {
             const auto *text = reinterpret_cast<const char *>(sqlite3_value_text(stored));
+            if (text == nullptr) { // SQLite could not get the memory for the closing zero
+                std::fill_n(object->values_, attributes, AttributeValue());
+                return nullptr;
+            }
             value.emplace<QString>(QString::fromUtf8(text, sqlite3_value_bytes(stored)));
             break;
         }
@@ -156,6 +212,7 @@ ManagedObject *ManagedObjectContext::materialise(const EntityDescription &entity
     for (size_t slot = 0; slot < entity.toOneRelationships().size(); ++slot, ++column)
         object->toOne_[slot].id = sqlite3_column_int64(statement, column);
     object->state_ = ManagedObject::State::Clean;
+    object->unreadable_ = false;
     return object;
 }
 
@@ -170,48 +227,125 @@ void ManagedObjectContext::fireFault(ManagedObject &object)
                 faults.push_back(*next);
         }
     }
+    Result<void> read;
     {
         const auto access = coordinator_.access();
-        Fetcher(*this, access.store()).readFaults(object.entity(), faults);
+        read = Fetcher(*this, access.store()).readFaults(object.entity(), faults);
     }
-    for (ManagedObject *fault : faults)
-        objects.batches.remove(fault->id_);
-    if (object.state_ == ManagedObject::State::Fault) {
-        // The row is not there (no store, or a damaged file): an object without values is what can be given.
-        log("%@ %ld could not be read", QString::fromStdString(object.entity().name()), object.id_);
-        object.state_ = ManagedObject::State::Clean;
+    if (object.state_ != ManagedObject::State::Fault || read) {
+        for (ManagedObject *fault : faults)
+            objects.batches.remove(fault->id_);
     }
+    if (object.state_ != ManagedObject::State::Fault)
+        return;
+    if (!read) {
+        object.unreadable_ = true;
+        noteFailedRead(object, std::move(read.error()));
+        return;
+    }
+    // Another row points to one that is not in the file.
+    log("%@ %ld is not in the store", QString::fromStdString(object.entity().name()), object.id_);
+    object.state_ = ManagedObject::State::Gone;
+    objects.registered.remove(object.id_);
 }
 
 void ManagedObjectContext::loadToMany(ManagedObject &owner, int slot)
 {
     const auto access = coordinator_.access();
-    Fetcher(*this, access.store()).readToMany(owner, owner.entity().toManyRelationships()[static_cast<size_t>(slot)]);
+    const auto &relationship = owner.entity().toManyRelationships()[static_cast<size_t>(slot)];
+    if (auto read = Fetcher(*this, access.store()).readToMany(owner, relationship); !read) {
+        owner.toMany_[slot].unreadable = true;
+        noteFailedRead(owner, std::move(read.error()));
+    }
 }
 
-bool ManagedObjectContext::save(StoreError *error)
+void ManagedObjectContext::noteFailedRead(ManagedObject &object, Error error)
 {
-    if (!hasChanges())
-        return true;
-    const auto access = coordinator_.access();
-    if (!access) {
-        if (error != nullptr)
-            *error = {0, QStringLiteral("no persistent store is attached")};
-        return false;
+    log(error.message());
+    unreadable_.push_back(&object);
+    lastFailedRead_ = std::move(error);
+    ++failedReads_;
+}
+
+void ManagedObjectContext::refuseChange(const ManagedObject &unreadable)
+{
+    const QString object =
+        QStringLiteral("%1 %2").arg(QString::fromStdString(unreadable.entity().name())).arg(unreadable.objectID());
+    Error error{QStringLiteral("a change was refused because an object could not be read"), object,
+                lastFailedRead_ ? lastFailedRead_->reason : QString(), lastFailedRead_ ? lastFailedRead_->code : 0};
+    log(error.message());
+    if (!refusedChange_)
+        refusedChange_ = std::move(error);
+}
+
+void ManagedObjectContext::forgetFailedReads()
+{
+    for (ManagedObject *object : unreadable_) {
+        object->unreadable_ = false;
+        for (size_t slot = 0; slot < object->entity().toManyRelationships().size(); ++slot)
+            object->toMany_[slot].unreadable = false;
     }
-    if (!Saver(*this, *access.store()).save(error))
-        return false;
+    unreadable_.clear();
+    lastFailedRead_.reset();
+    refusedChange_.reset();
+}
+
+Result<void> ManagedObjectContext::save()
+{
+    Result<void> saved;
+    if (refusedChange_)
+        saved = tl::unexpected(*refusedChange_);
+    else if (hasChanges())
+        saved = write();
+    forgetFailedReads();
+    if (!saved)
+        log("error while saving context - %@", saved.error().message());
+    return saved;
+}
+
+Result<void> ManagedObjectContext::write()
+{
+    const auto access = coordinator_.access();
+    if (!access)
+        return failure(QStringLiteral("cannot save"), {}, QStringLiteral("no persistent store is attached"));
+    if (auto saved = Saver(*this, *access.store()).save(); !saved)
+        return saved;
     access->checkpoint(false);
     if (access->checkpointIsDue())
         checkpointLater();
-    return true;
+    return {};
 }
 
 void ManagedObjectContext::saveOrKeepChanges()
 {
-    StoreError error;
-    if (!save(&error))
-        log("error while saving context - %@", error.description);
+    (void)save(); // which logs a failure
+}
+
+void ManagedObjectContext::rollback()
+{
+    using State = ManagedObject::State;
+    for (EntityObjects &objects : objects_) {
+        for (ManagedObject *object : objects.changed) {
+            object->listed_ = false;
+            object->changedColumns_ = 0;
+            if (object->state_ == State::Inserted) {
+                object->state_ = State::Gone;
+                objects.registered.remove(object->id_);
+            } else if (object->state_ != State::Gone) {
+                object->state_ = State::Fault;
+                std::fill_n(object->values_, object->entity().attributes().size(), AttributeValue());
+                std::fill_n(object->toOne_, object->entity().toOneRelationships().size(), ManagedObject::ToOneLink());
+            }
+        }
+        objects.changed.clear();
+    }
+    for (const auto &object : owned_) {
+        for (size_t slot = 0; slot < object->entity().toManyRelationships().size(); ++slot) {
+            object->toMany_[slot].members.clear();
+            object->toMany_[slot].loaded = object->state_ == State::Gone;
+        }
+    }
+    forgetFailedReads();
 }
 
 bool ManagedObjectContext::hasChanges() const

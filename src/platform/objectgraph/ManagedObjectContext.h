@@ -1,12 +1,14 @@
 #pragma once
 
+#include "platform/Error.h"
 #include "platform/objectgraph/ManagedObject.h"
 #include "platform/objectgraph/Predicate.h"
-#include "platform/objectgraph/StoreError.h"
 
 #include <QHash>
+#include <QSet>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace kesto
@@ -38,34 +40,47 @@ public:
     ManagedObject &insert(const EntityDescription &entity);
 
     /// Takes the object out of every relationship, deletes what its delete rules say, and removes its row with the next
-    /// save.
+    /// save. When one of the objects concerned can't be read, nothing is deleted or changed, and the next save fails
+    /// with the reason.
     void deleteObject(ManagedObject &object);
 
-    /// The objects of an entity that meet a request, in its order. On an error the result is empty and *error (when
-    /// given) is set.
+    /// The objects of an entity that meet a request, in its order. An error when anything could not be read that the
+    /// request asks for, also a relationship to be fetched along; the objects read so far are then kept, but no set is.
     template <class T>
-    [[nodiscard]] std::vector<T *> fetch(const FetchRequest &request = {}, StoreError *error = nullptr)
+    [[nodiscard]] Result<std::vector<T *>> fetch(const FetchRequest &request = {})
     {
-        const std::vector<ManagedObject *> found = fetch(entityOf<T>(), request, error);
-        std::vector<T *> typed;
-        typed.reserve(found.size());
-        for (ManagedObject *object : found)
-            typed.push_back(static_cast<T *>(object));
-        return typed;
+        return fetch(entityOf<T>(), request).map([](const std::vector<ManagedObject *> &found) {
+            std::vector<T *> typed;
+            typed.reserve(found.size());
+            for (ManagedObject *object : found)
+                typed.push_back(static_cast<T *>(object));
+            return typed;
+        });
     }
-    [[nodiscard]] std::vector<ManagedObject *> fetch(const EntityDescription &entity, const FetchRequest &request,
-                                                     StoreError *error = nullptr);
+    [[nodiscard]] Result<std::vector<ManagedObject *>> fetch(const EntityDescription &entity,
+                                                             const FetchRequest &request);
+    /// For lists that are only shown: a fetch that failed is logged and gives nothing.
+    template <class T>
+    [[nodiscard]] std::vector<T *> fetchOrLog(const FetchRequest &request = {})
+    {
+        auto found = fetch<T>(request);
+        if (!found)
+            logFailedFetch(found.error());
+        return found ? std::move(*found) : std::vector<T *>();
+    }
 
     /// The object of a key when it is in memory; null otherwise. Never touches the store.
     [[nodiscard]] ManagedObject *registeredObject(const EntityDescription &entity, qint64 id) const;
 
-    /// Writes all changes in one transaction; durable when this returns true. When it returns false (*error says why)
-    /// the objects stay as they were, unsaved, and a later save can succeed. True at once when there is nothing to
-    /// save.
-    [[nodiscard]] bool save(StoreError *error = nullptr);
+    /// Writes all changes in one transaction; durable when this succeeds. A failure is logged here; the objects stay as
+    /// they were, unsaved, and a later save can succeed. Fails, too, when a change since the last save had to be
+    /// refused because an object could not be read. Succeeds at once when there is nothing to save.
+    [[nodiscard]] Result<void> save();
     /// Saves where nothing else can be done about a failure: the changes stay in memory and go along with the next
     /// save.
     void saveOrKeepChanges();
+    /// Drops every change since the last save: what was inserted is deleted, all else is read again when it is used.
+    void rollback();
 
     [[nodiscard]] bool hasChanges() const;
 
@@ -101,15 +116,29 @@ private:
     ManagedObject *objectFor(const EntityDescription &entity, qint64 id);
     ManagedObject &own(std::unique_ptr<ManagedObject> object);
     /// The object of a row whose columns follow the key at position 0; reads them when the object has no values yet.
+    /// Null when there was not enough memory.
     ManagedObject *materialise(const EntityDescription &entity, SqlStatement &row);
     void fireFault(ManagedObject &object);
     void loadToMany(ManagedObject &owner, int slot);
+    [[nodiscard]] Result<void> write();
+    /// Reads everything that deleting an object changes.
+    [[nodiscard]] bool readForDeletion(ManagedObject &object, QSet<ManagedObject *> &visited);
+    void unlinkAndDelete(ManagedObject &object);
     void noteChange(ManagedObject &object);
+    /// An object's values or one of its sets could not be read.
+    void noteFailedRead(ManagedObject &object, Error error);
+    void refuseChange(const ManagedObject &unreadable);
+    void forgetFailedReads();
+    static void logFailedFetch(const Error &error);
     void checkpointLater();
 
     PersistentStoreCoordinator &coordinator_;
     std::vector<EntityObjects> objects_; ///< by entity index
     std::vector<std::unique_ptr<ManagedObject>> owned_;
+    std::vector<ManagedObject *> unreadable_; ///< objects that a read failed for since the last save
+    std::optional<Error> lastFailedRead_;     ///< since the last save
+    int failedReads_ = 0;                     ///< how many there were
+    std::optional<Error> refusedChange_;      ///< the first one since the last save
     std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
     bool checkpointPending_ = false;
 };

@@ -56,25 +56,25 @@ EntityDescription::EntityDescription(std::string name, std::vector<AttributeDesc
     }
 }
 
-PropertyReference EntityDescription::property(std::string_view name) const
+std::optional<PropertyReference> EntityDescription::property(std::string_view name) const
 {
+    using Kind = PropertyReference::Kind;
     if (const int slot = position(attributes_, name); slot >= 0)
-        return {PropertyReference::Kind::Attribute, slot};
+        return PropertyReference{Kind::Attribute, slot};
     if (const int slot = position(toOne_, name); slot >= 0)
-        return {PropertyReference::Kind::ToOne, slot};
+        return PropertyReference{Kind::ToOne, slot};
     if (const int slot = position(toMany_, name); slot >= 0)
-        return {PropertyReference::Kind::ToMany, slot};
-    return {};
+        return PropertyReference{Kind::ToMany, slot};
+    return std::nullopt;
 }
 
 const RelationshipDescription *EntityDescription::relationship(std::string_view name) const
 {
-    const PropertyReference reference = property(name);
-    if (reference.kind == PropertyReference::Kind::ToOne)
-        return &toOne_[static_cast<size_t>(reference.slot)];
-    if (reference.kind == PropertyReference::Kind::ToMany)
-        return &toMany_[static_cast<size_t>(reference.slot)];
-    return nullptr;
+    const auto reference = property(name);
+    if (!reference || reference->kind == PropertyReference::Kind::Attribute)
+        return nullptr;
+    const auto &list = reference->kind == PropertyReference::Kind::ToOne ? toOne_ : toMany_;
+    return &list[static_cast<size_t>(reference->slot)];
 }
 
 std::unique_ptr<ManagedObject> EntityDescription::make(ManagedObjectContext &context, qint64 id) const

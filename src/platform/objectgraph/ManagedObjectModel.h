@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -46,9 +47,9 @@ struct RelationshipDescription
 /// Where a key leads: to an attribute or to a relationship, by position.
 struct PropertyReference
 {
-    enum class Kind { None, Attribute, ToOne, ToMany };
-    Kind kind = Kind::None;
-    int slot = -1;
+    enum class Kind { Attribute, ToOne, ToMany };
+    Kind kind;
+    int slot;
 };
 
 /// Makes the object of a class for one row.
@@ -69,7 +70,9 @@ public:
     [[nodiscard]] const std::vector<AttributeDescription> &attributes() const { return attributes_; }
     [[nodiscard]] const std::vector<RelationshipDescription> &toOneRelationships() const { return toOne_; }
     [[nodiscard]] const std::vector<RelationshipDescription> &toManyRelationships() const { return toMany_; }
-    [[nodiscard]] PropertyReference property(std::string_view name) const;
+    /// Nothing when the entity has no property of this name.
+    [[nodiscard]] std::optional<PropertyReference> property(std::string_view name) const;
+    /// Null when the entity has no relationship of this name.
     [[nodiscard]] const RelationshipDescription *relationship(std::string_view name) const;
     /// Attributes, then to-one relationships: the order of the columns behind the key.
     [[nodiscard]] int columnCount() const { return static_cast<int>(attributes_.size() + toOne_.size()); }

@@ -23,7 +23,13 @@ namespace kesto
 namespace
 {
 
-const QString kAlreadyMoving = QStringLiteral("the persistent store is being moved to another file");
+const QString kCannotMove = QStringLiteral("cannot move the store");
+
+tl::unexpected<Error> alreadyMoving(const QString &path)
+{
+    return failure(QStringLiteral("cannot use another store"), path,
+                   QStringLiteral("the store is being moved to another file"));
+}
 constexpr int kPagesPerStep = 64; // a quarter of a megabyte: a writer waits a millisecond at most
 
 /// Makes a rename last over a loss of power.
@@ -48,18 +54,16 @@ void removeWithLog(const QString &path)
 
 /// Puts a finished copy in the target's place. A log that a killed process left beside the target goes first: SQLite
 /// would replay it into the new file. Until the rename the source is the complete file, from then on the target.
-bool install(const QString &temporary, const QString &path, StoreError &error)
+Result<void> install(const QString &temporary, const QString &path)
 {
     for (const char *suffix : {"-wal", "-shm", "-journal"})
         QFile::remove(path + QLatin1String(suffix));
-    std::error_code failure;
-    std::filesystem::rename(QFile::encodeName(temporary).toStdString(), QFile::encodeName(path).toStdString(), failure);
-    if (failure) {
-        error = {0, QString::fromStdString(failure.message())};
-        return false;
-    }
+    std::error_code reason;
+    std::filesystem::rename(QFile::encodeName(temporary).toStdString(), QFile::encodeName(path).toStdString(), reason);
+    if (reason)
+        return failure(kCannotMove, path, QString::fromStdString(reason.message()), reason.value());
     syncFolderOf(path);
-    return true;
+    return {};
 }
 
 } // namespace
@@ -71,12 +75,13 @@ public:
     CopySteps(const PersistentStoreCoordinator &coordinator, sqlite3 *target, const QString &path)
         : coordinator_(coordinator)
         , target_(target)
+        , path_(path)
     {
         const Access source = coordinator_.access();
         if (!source)
             problem_ = QStringLiteral("no persistent store is attached");
         else if (QFileInfo(source->path()) == QFileInfo(path))
-            problem_ = QStringLiteral("%1 is the attached store itself").arg(path);
+            problem_ = QStringLiteral("it is the attached store itself");
         else
             steps_ = sqlite3_backup_init(target, "main", source->handle(), "main");
     }
@@ -115,17 +120,18 @@ public:
         return result == SQLITE_DONE && committed == SQLITE_OK;
     }
 
-    bool fail(StoreError &error) const
+    [[nodiscard]] tl::unexpected<Error> error() const
     {
-        error = problem_.isNull()
-                    ? StoreError{sqlite3_extended_errcode(target_), QString::fromUtf8(sqlite3_errmsg(target_))}
-                    : StoreError{0, problem_};
-        return false;
+        if (!problem_.isNull())
+            return failure(kCannotMove, path_, problem_);
+        return failure(kCannotMove, path_, QString::fromUtf8(sqlite3_errmsg(target_)),
+                       sqlite3_extended_errcode(target_));
     }
 
 private:
     const PersistentStoreCoordinator &coordinator_;
     sqlite3 *target_;
+    const QString &path_;
     sqlite3_backup *steps_ = nullptr;
     QString problem_;
 };
@@ -186,21 +192,17 @@ PersistentStoreCoordinator::Access PersistentStoreCoordinator::access() const
     return {std::move(lock), store_.get()};
 }
 
-bool PersistentStoreCoordinator::addPersistentStore(const QString &path, const PersistentStoreOptions &options,
-                                                    StoreError *error)
+Result<void> PersistentStoreCoordinator::addPersistentStore(const QString &path, const PersistentStoreOptions &options)
 {
     const auto lock = access();
-    if (moving_) {
-        if (error != nullptr)
-            *error = {0, kAlreadyMoving};
-        return false;
-    }
-    auto opened = SqlStore::open(path, model_, error);
-    if (opened == nullptr)
-        return false;
-    store_ = std::move(opened);
+    if (moving_)
+        return alreadyMoving(path);
+    auto opened = SqlStore::open(path, model_);
+    if (!opened)
+        return tl::unexpected(std::move(opened.error()));
+    store_ = std::move(*opened);
     options_ = options;
-    return true;
+    return {};
 }
 
 QString PersistentStoreCoordinator::persistentStorePath() const
@@ -215,38 +217,33 @@ PersistentStoreOptions PersistentStoreCoordinator::persistentStoreOptions() cons
     return options_;
 }
 
-bool PersistentStoreCoordinator::migratePersistentStore(const QString &path, const PersistentStoreOptions &options,
-                                                        const std::function<void()> &beforeUse, StoreError *error)
+Result<void> PersistentStoreCoordinator::migratePersistentStore(const QString &path,
+                                                                const PersistentStoreOptions &options,
+                                                                const std::function<Result<void>()> &beforeUse)
 {
     {
         const auto lock = access();
-        if (moving_) {
-            if (error != nullptr)
-                *error = {0, kAlreadyMoving};
-            return false;
-        }
+        if (moving_)
+            return alreadyMoving(path);
         moving_ = true;
     }
     const QString temporary = path + QStringLiteral(".migrating");
     removeWithLog(temporary); // what a killed move left
-    StoreError reason;
-    bool moved = false;
+    Result<void> moved;
     try {
-        moved = copyAndInstall(temporary, path, options, beforeUse, reason);
+        moved = copyAndInstall(temporary, path, options, beforeUse);
     } catch (const SQLite::Exception &exception) {
-        reason = {exception.getExtendedErrorCode(), QString::fromUtf8(exception.what())};
+        moved = failure(kCannotMove, path, QString::fromUtf8(exception.what()), exception.getExtendedErrorCode());
     }
     removeWithLog(temporary);
-    if (!moved && error != nullptr)
-        *error = reason;
     const auto lock = access();
     moving_ = false;
     return moved;
 }
 
-bool PersistentStoreCoordinator::copyAndInstall(const QString &temporary, const QString &path,
-                                                const PersistentStoreOptions &options,
-                                                const std::function<void()> &beforeUse, StoreError &error)
+Result<void> PersistentStoreCoordinator::copyAndInstall(const QString &temporary, const QString &path,
+                                                        const PersistentStoreOptions &options,
+                                                        const std::function<Result<void>()> &beforeUse)
 {
     std::optional<SQLite::Database> copy(std::in_place, QFile::encodeName(temporary).toStdString(),
                                          SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
@@ -255,27 +252,30 @@ bool PersistentStoreCoordinator::copyAndInstall(const QString &temporary, const 
     // It reads through the writers' own connection, so that SQLite carries a write made meanwhile into the copy, too.
     CopySteps steps(*this, copy->getHandle(), path);
     if (!steps.runUntilNearlyDone())
-        return steps.fail(error);
+        return steps.error();
     const Access source = access();
     if (!steps.finish())
-        return steps.fail(error);
-    if (copy->execAndGet("PRAGMA quick_check").getString() != "ok") {
-        error = {0, QStringLiteral("the copy for %1 is damaged").arg(path)};
-        return false;
-    }
+        return steps.error();
+    if (copy->execAndGet("PRAGMA quick_check").getString() != "ok")
+        return failure(kCannotMove, path, QStringLiteral("the copy is damaged"));
     copy.reset(); // with its lock on the file
-    if (!install(temporary, path, error))
-        return false;
-    auto opened = SqlStore::open(path, model_, &error);
-    if (opened == nullptr) {
+    if (auto installed = install(temporary, path); !installed)
+        return installed;
+    auto opened = SqlStore::open(path, model_);
+    Result<void> usable;
+    if (!opened)
+        usable = tl::unexpected(std::move(opened.error()));
+    else if (beforeUse)
+        usable = beforeUse();
+    if (!usable) {
+        if (opened)
+            opened->reset(); // closed before its file is removed
         removeWithLog(path);
-        return false;
+        return usable;
     }
-    if (beforeUse)
-        beforeUse();
-    store_ = std::move(opened);
+    store_ = std::move(*opened);
     options_ = options;
-    return true;
+    return {};
 }
 
 } // namespace kesto

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/Error.h"
 #include "platform/objectgraph/ManagedObjectModel.h"
-#include "platform/objectgraph/StoreError.h"
 
 #include <QString>
 
@@ -48,19 +48,18 @@ public:
     /// Until all background work that was given so far has ended.
     void waitForBackgroundWork();
 
-    /// Attaches a store file, made when missing, in place of the one attached before. False, with the reason, when the
-    /// file can't be used; the coordinator then keeps what it had.
-    [[nodiscard]] bool addPersistentStore(const QString &path, const PersistentStoreOptions &options,
-                                          StoreError *error = nullptr);
+    /// Attaches a store file, made when missing, in place of the one attached before. When the file can't be used, the
+    /// coordinator keeps what it had.
+    [[nodiscard]] Result<void> addPersistentStore(const QString &path, const PersistentStoreOptions &options);
 
     /// Moves the content of the attached store to another file and goes on with that one; the old file stays on disk.
     /// The content is copied to a temporary name beside the target in small steps between which readers and writers get
     /// in, checked, and renamed, with every write made meanwhile; a target that existed is replaced. `beforeUse` runs
-    /// with the lock held once the target is complete and before anybody can write to it. False, with the reason, on
-    /// failure: the coordinator keeps what it had, and nothing of the copy remains. One move at a time; while it lasts,
-    /// addPersistentStore() is refused.
-    [[nodiscard]] bool migratePersistentStore(const QString &path, const PersistentStoreOptions &options,
-                                              const std::function<void()> &beforeUse = {}, StoreError *error = nullptr);
+    /// with the lock held once the target is complete and before anybody can write to it; its failure abandons the
+    /// move. On failure the coordinator keeps what it had, and nothing of the copy remains. One move at a time; while
+    /// it lasts, addPersistentStore() is refused.
+    [[nodiscard]] Result<void> migratePersistentStore(const QString &path, const PersistentStoreOptions &options,
+                                                      const std::function<Result<void>()> &beforeUse = {});
 
     /// The path of the attached file; null when there is none.
     [[nodiscard]] QString persistentStorePath() const;
@@ -88,9 +87,9 @@ public:
 
 private:
     class CopySteps;
-    [[nodiscard]] bool copyAndInstall(const QString &temporary, const QString &path,
-                                      const PersistentStoreOptions &options, const std::function<void()> &beforeUse,
-                                      StoreError &error);
+    [[nodiscard]] Result<void> copyAndInstall(const QString &temporary, const QString &path,
+                                              const PersistentStoreOptions &options,
+                                              const std::function<Result<void>()> &beforeUse);
 
     const ManagedObjectModel &model_;
     mutable std::recursive_mutex mutex_;

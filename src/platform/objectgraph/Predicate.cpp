@@ -109,17 +109,17 @@ Truth evaluate(const Predicate::Node &node, const ManagedObject &object)
     std::string_view path = node.path;
     const ManagedObject *target = &object;
     if (const size_t point = path.find('.'); point != std::string_view::npos) {
-        const PropertyReference first = object.entity().property(path.substr(0, point));
-        target = first.kind == PropertyReference::Kind::ToOne ? object.toOne(first.slot) : nullptr;
+        const auto first = object.entity().property(path.substr(0, point));
+        target = first && first->kind == PropertyReference::Kind::ToOne ? object.toOne(first->slot) : nullptr;
         if (target == nullptr)
             return node.operation == Predicate::Operation::IsAbsent ? Truth(true) : std::nullopt;
         path = path.substr(point + 1);
     }
-    const PropertyReference property = target->entity().property(path);
-    if (property.kind == PropertyReference::Kind::Attribute)
-        return compare(node, target->attributeAt(property.slot));
-    if (property.kind == PropertyReference::Kind::ToOne)
-        return compareObject(node, target->toOne(property.slot));
+    const auto property = target->entity().property(path);
+    if (property && property->kind == PropertyReference::Kind::Attribute)
+        return compare(node, target->attributeAt(property->slot));
+    if (property && property->kind == PropertyReference::Kind::ToOne)
+        return compareObject(node, target->toOne(property->slot));
     return std::nullopt;
 }
 

@@ -5,6 +5,7 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <bit>
 
 namespace kesto
@@ -16,8 +17,6 @@ namespace
 /// Many new rows go in this many to a statement: each statement opens its table and all its indexes.
 constexpr int kRowsTogether = 16;
 
-std::string quoted(const std::string &name) { return '"' + name + '"'; }
-
 const std::string &columnName(const EntityDescription &entity, int column)
 {
     const auto attributes = static_cast<int>(entity.attributes().size());
@@ -27,29 +26,31 @@ const std::string &columnName(const EntityDescription &entity, int column)
 
 } // namespace
 
-bool Saver::save(StoreError *error)
+Result<void> Saver::save()
 {
-    if (!store_.execute("BEGIN IMMEDIATE", error))
-        return false;
+    Result<void> written = store_.begin();
     for (const EntityDescription &entity : context_.persistentStoreCoordinator().managedObjectModel().entities()) {
-        if (!writeEntity(entity, context_.objectsOf(entity).changed)) {
-            if (error != nullptr)
-                *error = store_.lastError();
-            (void)store_.execute("ROLLBACK", nullptr); // fails only when SQLite rolled back itself
-            return false;
-        }
+        if (written && !writeEntity(entity, context_.objectsOf(entity).changed))
+            written = tl::unexpected(
+                store_.error(QStringLiteral("cannot write %1").arg(QString::fromStdString(entity.name()))));
     }
-    if (!store_.execute("COMMIT", error)) {
-        (void)store_.execute("ROLLBACK", nullptr);
-        return false;
+    if (written)
+        written = store_.execute("COMMIT");
+    if (!written) {
+        (void)store_.execute("ROLLBACK"); // when this fails, too, the next begin() tries it again
+        return written;
     }
     settle();
-    return true;
+    return {};
 }
 
 bool Saver::writeEntity(const EntityDescription &entity, const std::vector<ManagedObject *> &changed)
 {
     using State = ManagedObject::State;
+    const bool deletes = std::any_of(changed.begin(), changed.end(),
+                                     [](const ManagedObject *object) { return object->state_ == State::Deleted; });
+    if (deletes && !store_.rememberKeys(entity))
+        return false;
     for (size_t i = 0; i < changed.size(); ++i) {
         const ManagedObject &object = *changed[i];
         bool written = true;

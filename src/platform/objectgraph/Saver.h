@@ -15,7 +15,7 @@ public:
     {
     }
 
-    [[nodiscard]] bool save(StoreError *error);
+    [[nodiscard]] Result<void> save();
 
 private:
     [[nodiscard]] bool writeEntity(const EntityDescription &entity, const std::vector<ManagedObject *> &changed);

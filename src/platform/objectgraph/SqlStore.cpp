@@ -15,8 +15,7 @@ namespace
 {
 
 constexpr int kApplicationId = 0x6b657374; // marks the files that are ours
-
-std::string quoted(const std::string &name) { return '"' + name + '"'; }
+const QString kCannotOpen = QStringLiteral("cannot open the store");
 
 const char *columnType(AttributeType type)
 {
@@ -46,28 +45,34 @@ SqlStatement::~SqlStatement()
 void SqlStatement::bind(int position, const AttributeValue &value)
 {
     if (const auto *number = std::get_if<qint64>(&value))
-        sqlite3_bind_int64(statement_, position, *number);
+        bind(position, *number);
     else if (const auto *real = std::get_if<double>(&value))
-        sqlite3_bind_double(statement_, position, *real);
+        note(sqlite3_bind_double(statement_, position, *real));
     else if (const auto *text = std::get_if<QString>(&value))
         bindUtf8(position, text->toUtf8());
     else if (const auto *bytes = std::get_if<QByteArray>(&value))
-        sqlite3_bind_blob64(statement_, position, bytes->isNull() ? "" : bytes->constData(),
-                            static_cast<sqlite3_uint64>(bytes->size()), SQLITE_STATIC);
+        note(sqlite3_bind_blob64(statement_, position, bytes->isNull() ? "" : bytes->constData(),
+                                 static_cast<sqlite3_uint64>(bytes->size()), SQLITE_STATIC));
     else
-        sqlite3_bind_null(statement_, position);
+        note(sqlite3_bind_null(statement_, position));
 }
 
-void SqlStatement::bind(int position, qint64 value) { sqlite3_bind_int64(statement_, position, value); }
+void SqlStatement::bind(int position, qint64 value) { note(sqlite3_bind_int64(statement_, position, value)); }
+
+void SqlStatement::note(int bound)
+{
+    if (bound != SQLITE_OK && failedBind_ == SQLITE_OK)
+        failedBind_ = bound;
+}
 
 void SqlStatement::bindUtf8(int position, const QByteArray &value)
 {
     const QByteArray &kept = texts_.emplace_back(value.isNull() ? QByteArray("") : value);
-    sqlite3_bind_text64(statement_, position, kept.constData(), static_cast<sqlite3_uint64>(kept.size()), SQLITE_STATIC,
-                        SQLITE_UTF8);
+    note(sqlite3_bind_text64(statement_, position, kept.constData(), static_cast<sqlite3_uint64>(kept.size()),
+                             SQLITE_STATIC, SQLITE_UTF8));
 }
 
-int SqlStatement::step() { return sqlite3_step(statement_); }
+int SqlStatement::step() { return failedBind_ != SQLITE_OK ? failedBind_ : sqlite3_step(statement_); }
 
 void SqlStatement::rewind()
 {
@@ -89,30 +94,25 @@ SqlStore::~SqlStore()
 
 sqlite3 *SqlStore::handle() const { return database_->getHandle(); }
 
-std::unique_ptr<SqlStore> SqlStore::open(const QString &path, const ManagedObjectModel &model, StoreError *error)
+Result<std::unique_ptr<SqlStore>> SqlStore::open(const QString &path, const ManagedObjectModel &model)
 {
     try {
         // Without SQLite's own lock around every call: the coordinator's lock stands around all of them.
         auto database = std::make_unique<SQLite::Database>(
             QFile::encodeName(path).toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE | SQLite::OPEN_NOMUTEX);
         std::unique_ptr<SqlStore> store(new SqlStore(path, std::move(database)));
-        if (auto refused = store->prepareFile(model)) {
-            if (error != nullptr)
-                *error = *refused;
-            return nullptr;
-        }
+        if (auto refused = store->prepareFile(model))
+            return tl::unexpected(std::move(*refused));
         return store;
     } catch (const SQLite::Exception &exception) {
-        if (error != nullptr)
-            *error = {exception.getExtendedErrorCode(),
-                      exception.getErrorCode() == SQLITE_BUSY
-                          ? QStringLiteral("%1 is in use by another process").arg(path)
-                          : QStringLiteral("%1: %2").arg(path, QString::fromUtf8(exception.what()))};
-        return nullptr;
+        return failure(kCannotOpen, path,
+                       exception.getErrorCode() == SQLITE_BUSY ? QStringLiteral("it is in use by another process")
+                                                               : QString::fromUtf8(exception.what()),
+                       exception.getExtendedErrorCode());
     }
 }
 
-std::optional<StoreError> SqlStore::prepareFile(const ManagedObjectModel &model)
+std::optional<Error> SqlStore::prepareFile(const ManagedObjectModel &model)
 {
     SQLite::Database &database = *database_;
     database.exec("PRAGMA locking_mode=EXCLUSIVE");
@@ -123,21 +123,22 @@ std::optional<StoreError> SqlStore::prepareFile(const ManagedObjectModel &model)
     const int applicationId = database.execAndGet("PRAGMA application_id");
     const bool empty = database.execAndGet("SELECT count(*) FROM sqlite_schema").getInt() == 0;
     if (!empty && applicationId != kApplicationId)
-        return StoreError{0, QStringLiteral("%1 is a database of another program").arg(path_)};
+        return Error{kCannotOpen, path_, QStringLiteral("it is a database of another program")};
     const int version = database.execAndGet("PRAGMA user_version");
     if (version > model.version())
-        return StoreError{0, QStringLiteral("%1 was written by a newer version of the program (%2, this one knows %3)")
-                                 .arg(path_)
-                                 .arg(version)
-                                 .arg(model.version())};
+        return Error{kCannotOpen, path_,
+                     QStringLiteral("it was written by a newer version of the program (%1, this one knows %2)")
+                         .arg(version)
+                         .arg(model.version())};
     sqlite3_db_config(handle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
     const std::string journal = database.execAndGet("PRAGMA journal_mode=WAL").getString();
     if (journal != "wal")
-        return StoreError{0, QStringLiteral("%1 can't keep a write-ahead log").arg(path_)};
+        return Error{kCannotOpen, path_, QStringLiteral("it can't keep a write-ahead log")};
     database.exec("PRAGMA synchronous=FULL");
     database.exec("PRAGMA cache_size=-8000");
     database.exec("PRAGMA temp_store=MEMORY");
-    if (version < model.version() || empty)
+    const bool hasState = database.execAndGet("SELECT count(*) FROM sqlite_schema WHERE name = '_state'").getInt() != 0;
+    if (version < model.version() || empty || !hasState)
         bringToModel(model);
     database.exec("PRAGMA wal_checkpoint(TRUNCATE)");
     startLog();
@@ -171,6 +172,22 @@ void SqlStore::bringToModel(const ManagedObjectModel &model)
         // A to-many side finds its rows through the other side's column. Of two to-one sides each has its own.
         for (const RelationshipDescription &relationship : entity.toOneRelationships())
             need(relationship.name, "INTEGER", relationship.inverseToMany);
+    }
+    database.exec(
+        "CREATE TABLE IF NOT EXISTS \"_state\" (name TEXT PRIMARY KEY, value INTEGER NOT NULL) STRICT, WITHOUT ROWID");
+    for (const EntityDescription &entity : model.entities()) {
+        // Also the keys of rows that are gone but that others still name.
+        std::string largest = "SELECT ifnull(max(\"_pk\"), 0) AS key FROM " + quoted(entity.name());
+        for (const EntityDescription &source : model.entities()) {
+            for (const RelationshipDescription &relationship : source.toOneRelationships()) {
+                if (relationship.destinationEntity == &entity)
+                    largest += " UNION ALL SELECT ifnull(max(" + quoted(relationship.name) + "), 0) FROM " +
+                               quoted(source.name());
+            }
+        }
+        SQLite::Statement seed(database, "INSERT OR IGNORE INTO \"_state\" SELECT ?, max(key) FROM (" + largest + ')');
+        seed.bind(1, entity.name());
+        seed.exec();
     }
     database.exec("PRAGMA application_id=" + std::to_string(kApplicationId));
     database.exec("PRAGMA user_version=" + std::to_string(model.version()));
@@ -211,26 +228,49 @@ sqlite3_stmt *SqlStore::prepare(const QByteArray &key, const std::string &sql)
     return statement;
 }
 
-bool SqlStore::execute(const char *sql, StoreError *error)
+Result<void> SqlStore::execute(const char *sql)
 {
     if (sqlite3_exec(handle(), sql, nullptr, nullptr, nullptr) == SQLITE_OK)
-        return true;
-    if (error != nullptr)
-        *error = lastError();
-    return false;
+        return {};
+    return tl::unexpected(error(QStringLiteral("cannot run %1").arg(QString::fromUtf8(sql))));
 }
 
-StoreError SqlStore::lastError() const
+Result<void> SqlStore::begin()
 {
-    return {sqlite3_extended_errcode(handle()), QString::fromUtf8(sqlite3_errmsg(handle()))};
+    if (sqlite3_get_autocommit(handle()) == 0) {
+        if (auto ended = execute("ROLLBACK"); !ended)
+            return ended;
+    }
+    return execute("BEGIN IMMEDIATE");
+}
+
+Error SqlStore::error(const QString &what) const
+{
+    return {what, path_, QString::fromUtf8(sqlite3_errmsg(handle())), sqlite3_extended_errcode(handle())};
 }
 
 std::optional<qint64> SqlStore::maximumKey(const EntityDescription &entity)
 {
-    SqlStatement query = statement("max " + QByteArray::fromStdString(entity.name()),
-                                   [&] { return "SELECT max(\"_pk\") FROM \"" + entity.name() + '"'; });
-    return query && query.step() == SQLITE_ROW ? std::optional(qint64(sqlite3_column_int64(query.get(), 0)))
-                                               : std::nullopt;
+    SqlStatement query = statement("max " + QByteArray::fromStdString(entity.name()), [&] {
+        return "SELECT max(ifnull((SELECT max(\"_pk\") FROM " + quoted(entity.name()) +
+               "), 0), ifnull((SELECT value FROM \"_state\" WHERE name = ?), 0))";
+    });
+    if (!query)
+        return std::nullopt;
+    query.bindUtf8(1, QByteArray::fromStdString(entity.name()));
+    return query.step() == SQLITE_ROW ? std::optional(qint64(sqlite3_column_int64(query.get(), 0))) : std::nullopt;
+}
+
+bool SqlStore::rememberKeys(const EntityDescription &entity)
+{
+    SqlStatement update = statement("keys " + QByteArray::fromStdString(entity.name()), [&] {
+        return "INSERT INTO \"_state\" SELECT ?, ifnull(max(\"_pk\"), 0) FROM " + quoted(entity.name()) +
+               " WHERE true ON CONFLICT (name) DO UPDATE SET value = max(value, excluded.value)";
+    });
+    if (!update)
+        return false;
+    update.bindUtf8(1, QByteArray::fromStdString(entity.name()));
+    return update.step() == SQLITE_DONE;
 }
 
 } // namespace kesto

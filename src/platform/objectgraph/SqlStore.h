@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/Error.h"
 #include "platform/objectgraph/ManagedObjectModel.h"
-#include "platform/objectgraph/StoreError.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -21,6 +22,9 @@ class Database;
 
 namespace kesto
 {
+
+/// A name of the model as SQL takes it.
+[[nodiscard]] inline std::string quoted(const std::string &name) { return '"' + name + '"'; }
 
 /// A prepared statement that goes back to its start when this handle ends.
 class SqlStatement
@@ -34,7 +38,7 @@ public:
     SqlStatement(const SqlStatement &) = delete;
     SqlStatement &operator=(const SqlStatement &) = delete;
 
-    /// Null when it could not be prepared; SqlStore::lastError() tells why.
+    /// Null when it could not be prepared; SqlStore::error() tells why.
     [[nodiscard]] sqlite3_stmt *get() const { return statement_; }
     explicit operator bool() const { return statement_ != nullptr; }
 
@@ -43,14 +47,17 @@ public:
     void bind(int position, qint64 value);
     void bindUtf8(int position, const QByteArray &value);
 
-    /// SQLITE_ROW, SQLITE_DONE or an error code.
+    /// SQLITE_ROW, SQLITE_DONE or an error code; also that of a value that could not be bound.
     [[nodiscard]] int step();
     /// Back to the start, to be bound and run again.
     void rewind();
 
 private:
+    void note(int bound);
+
     sqlite3_stmt *statement_;
     std::vector<QByteArray> texts_; // UTF-8 of bound texts
+    int failedBind_ = 0;
 };
 
 /// One open store file: the connection (exclusive, write-ahead log, every commit synced), the schema and prepared
@@ -61,7 +68,7 @@ public:
     /// Opens or makes the file and brings it to the model: what a file of an older version lacks is added, the rest
     /// stays. Nothing, with the reason, when the file can't be used: it is locked by another process, was written by a
     /// newer version, is not ours or not a database; it is left untouched then.
-    static std::unique_ptr<SqlStore> open(const QString &path, const ManagedObjectModel &model, StoreError *error);
+    [[nodiscard]] static Result<std::unique_ptr<SqlStore>> open(const QString &path, const ManagedObjectModel &model);
     ~SqlStore();
 
     [[nodiscard]] const QString &path() const { return path_; }
@@ -75,11 +82,17 @@ public:
         return SqlStatement(found != statements_.constEnd() ? *found : prepare(key, makeSql()));
     }
 
-    [[nodiscard]] bool execute(const char *sql, StoreError *error);
-    [[nodiscard]] StoreError lastError() const;
+    [[nodiscard]] Result<void> execute(const char *sql);
+    /// Begins a transaction. One that an earlier failure left open is rolled back first.
+    [[nodiscard]] Result<void> begin();
+    /// Why the last call of SQLite failed.
+    [[nodiscard]] Error error(const QString &what) const;
 
-    /// The largest key among the rows of an entity, 0 when there are none; nothing when it can't be read.
+    /// The largest key that a row of an entity ever had, 0 when there was none; nothing when it can't be read.
     [[nodiscard]] std::optional<qint64> maximumKey(const EntityDescription &entity);
+    /// To be called before rows of an entity are deleted, in the same transaction: keys are never used again. False on
+    /// failure.
+    [[nodiscard]] bool rememberKeys(const EntityDescription &entity);
 
     /// To be called after each commit: moves a long log into the file. With `mayTakeTime` false only a very long one.
     void checkpoint(bool mayTakeTime);
@@ -91,7 +104,7 @@ private:
 
     SqlStore(QString path, std::unique_ptr<SQLite::Database> database);
     [[nodiscard]] sqlite3_stmt *prepare(const QByteArray &key, const std::string &sql);
-    [[nodiscard]] std::optional<StoreError> prepareFile(const ManagedObjectModel &model);
+    [[nodiscard]] std::optional<Error> prepareFile(const ManagedObjectModel &model);
     void bringToModel(const ManagedObjectModel &model);
     void startLog();
     static int pagesLogged(void *self, sqlite3 *, const char *, int pages);
