@@ -55,7 +55,8 @@ void fill(const QString &folder, const DataOptions &options)
                                                .random = &random,
                                                .cloudStore = nullptr,
                                                .calendar = calendar});
-    SQLiteParser::parse();
+    if (!SQLiteParser::parse())
+        qFatal("the catalogue could not be imported");
     if (options.daysBefore + options.daysAfter > 0) {
         std::vector<QDateTime> days;
         for (int i = -options.daysBefore; i < options.daysAfter; ++i)

@@ -54,7 +54,11 @@ public:
         platform_.reset();
         qInstallMessageHandler(silenced_);
     }
-    void run() override { SQLiteParser::parse(); }
+    void run() override
+    {
+        if (!SQLiteParser::parse())
+            qFatal("the catalogue could not be imported");
+    }
     quint64 checksum() override
     {
         platform_.reset(); // closes the file

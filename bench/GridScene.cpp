@@ -77,7 +77,8 @@ void giveAllDishesTo(int index)
     const auto before = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     CoreDataManager &manager = CoreDataManager::sharedManager();
     manager.persistentStoreCoordinator()->waitForBackgroundWork();
-    SQLiteParser::parse();
+    if (!SQLiteParser::parse())
+        qFatal("the catalogue could not be imported");
     qInstallMessageHandler(before);
     DishesCategory *category = manager.dishesCategoryForIndex(index);
     for (Dish *dish : manager.managedObjectContext()->fetchOrLog<Dish>())

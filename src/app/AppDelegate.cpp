@@ -2,6 +2,7 @@
 
 #include "app/PlainViewController.h"
 #include "app/RootViewConrollerViewController.h"
+#include "app/StoreAlert.h"
 #include "components/AlertCenter.h"
 #include "components/DayWatch.h"
 #include "components/NavigationController.h"
@@ -62,7 +63,19 @@ bool AppDelegate::application(const LaunchOptions &didFinishLaunchingWithOptions
     checkVersion();
     startRatingPrompt();
     showLockScreenAtLaunch();
+    watchStore();
     return true;
+}
+
+void AppDelegate::applicationCannotStart(const QString &reason)
+{
+    applyStyle();
+    arrangement_ = std::make_unique<PlainViewController>();
+    showWindow();
+    AlertCenter::sharedCenter().show({.title = localized(QStringLiteral("store problem")),
+                                      .message = reason,
+                                      .buttons = {{localized(QStringLiteral("store quit")), Alert::Role::Cancel}},
+                                      .answered = [this](const AlertAnswer &) { Q_EMIT quitRequested(); }});
 }
 
 void AppDelegate::becomeLockScreenDelegate() { BKPasscodeLockScreenManager::sharedManager().setDelegate(this); }
@@ -123,11 +136,15 @@ void AppDelegate::checkVersion()
 {
     const QString version = platform_.version();
     const QString imported = platform_.userDefaults().stringForKey(Keys::kAppVersionKey);
-    if (!imported.isNull() && imported == version)
+    const bool isCurrent = !imported.isNull() && imported == version;
+    // The version is recorded even when the import could not be saved.
+    const bool isMissing = isCurrent && platform_.userDefaults().boolForKey(Keys::kImportFailedKey) &&
+                           CoreDataManager::sharedManager().holdsNoDish();
+    if (isCurrent && !isMissing)
         return;
     auto waitScreen = std::make_unique<UpdatingDatabaseViewController>();
     waitScreen->setAppVersion(version);
-    waitScreen->setMode(imported.isNull() ? 0 : 1);
+    waitScreen->setMode(imported.isNull() || isMissing ? 0 : 1);
     window_.rootViewController()->presentViewController(std::move(waitScreen), false);
 }
 
@@ -142,6 +159,41 @@ void AppDelegate::showLockScreenAtLaunch()
 {
     if (platform_.userDefaults().valueForKey(Keys::kPasscodeKey).isValid())
         BKPasscodeLockScreenManager::sharedManager().showLockScreen(false);
+}
+
+void AppDelegate::watchStore()
+{
+    const CoreDataManager &manager = CoreDataManager::sharedManager();
+    connect(&manager, &CoreDataManager::storeRefused, this, [this, &manager] {
+        if (manager.storeProblem())
+            tellStoreProblem(*manager.storeProblem());
+    });
+}
+
+void AppDelegate::tellStoreProblem(const StoreProblem &problem)
+{
+    showStoreProblem(problem, [this](StoreAnswer answer) {
+        if (answer == StoreAnswer::Quit)
+            Q_EMIT quitRequested();
+        else
+            startWithEmptyStore();
+    });
+}
+
+void AppDelegate::startWithEmptyStore()
+{
+    CoreDataManager &manager = CoreDataManager::sharedManager();
+    if (const Result<void> started = manager.startWithEmptyStore(); !started) {
+        log(started.error().message());
+        tellStoreProblem(
+            {.kind = StoreProblem::Kind::Other, .path = started.error().where, .reason = started.error().reason});
+        return;
+    }
+    manager.updateSqliteFileForNewStartDietDay(); // the plan stays in the settings
+    // The screens were made over the store that could not be read.
+    arrangeScreens(makeRootMenu());
+    showWindow();
+    checkVersion();
 }
 
 void AppDelegate::application(const LocalNotification &didReceiveLocalNotification)
@@ -178,7 +230,7 @@ void AppDelegate::applicationWillTerminate()
     platform_.userDefaults().synchronize();
 }
 
-// Who is in the background may be ended without another word.
+// The system may kill a program in the background without notice.
 void AppDelegate::saveChanges() { CoreDataManager::sharedManager().managedObjectContext()->saveOrKeepChanges(); }
 
 bool AppDelegate::lockScreenManagerShouldShowLockScreen(BKPasscodeLockScreenManager &)

@@ -16,9 +16,10 @@ namespace kesto
 class NavigationController;
 class Platform;
 class RootViewConrollerViewController;
+struct StoreProblem;
 class Window;
 
-/// Sets the program up, and answers what the system tells it. Lives as long as the program; the platform outlives it.
+/// Sets the program up and handles the system's events. Lives as long as the program; the platform outlives it.
 class AppDelegate : public QObject,
                     public BKPasscodeLockScreenManagerDelegate,
                     public BKPasscodeViewControllerDelegate,
@@ -36,6 +37,8 @@ public:
     ~AppDelegate() override;
 
     bool application(const LaunchOptions &didFinishLaunchingWithOptions);
+    /// Instead of a launch: shows nothing but an alert with this reason and a button that quits.
+    void applicationCannotStart(const QString &reason);
     void application(const LocalNotification &didReceiveLocalNotification);
     void applicationDidEnterBackground();
     void applicationWillEnterForeground();
@@ -44,6 +47,11 @@ public:
     /// Null before the launch.
     [[nodiscard]] RootViewConrollerViewController *rootMenu() const { return menu_; }
 
+Q_SIGNALS:
+    /// The user wants to leave because the store cannot be opened.
+    void quitRequested();
+
+public:
     [[nodiscard]] bool lockScreenManagerShouldShowLockScreen(BKPasscodeLockScreenManager &manager) override;
     [[nodiscard]] std::unique_ptr<ViewController>
     lockScreenManagerPasscodeViewController(BKPasscodeLockScreenManager &manager) override;
@@ -72,6 +80,10 @@ private:
     void checkVersion();
     void startRatingPrompt();
     void showLockScreenAtLaunch();
+    void watchStore();
+
+    void tellStoreProblem(const StoreProblem &problem);
+    void startWithEmptyStore();
 
     Platform &platform_;
     Window &window_;

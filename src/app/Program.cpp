@@ -60,7 +60,10 @@ std::unique_ptr<Program> Program::start(const Options &options, QString *error)
     program->userInterface_ =
         std::make_unique<UserInterface>(program->platform()); // first: it reads on while others work
     program->delegate_ = std::make_unique<AppDelegate>(program->platform());
-    (void)program->delegate_->application(AppDelegate::LaunchOptions());
+    if (options.reasonNotToStart.isEmpty())
+        (void)program->delegate_->application(AppDelegate::LaunchOptions());
+    else
+        program->delegate_->applicationCannotStart(options.reasonNotToStart);
     program->userInterface_->appearance().followSystem();
     if (!program->userInterface_->load()) {
         *error = QStringLiteral("The interface can't be loaded.");
@@ -129,6 +132,7 @@ void Program::followSystem()
     connect(&lifecycle_, &ApplicationLifecycle::willEnterForeground, delegate_.get(),
             &AppDelegate::applicationWillEnterForeground);
     connect(qGuiApp, &QCoreApplication::aboutToQuit, delegate_.get(), &AppDelegate::applicationWillTerminate);
+    connect(delegate_.get(), &AppDelegate::quitRequested, qGuiApp, &QCoreApplication::quit, Qt::QueuedConnection);
     const auto tellNotifications = [this](bool active) { services_->notifications().setApplicationActive(active); };
     connect(&lifecycle_, &ApplicationLifecycle::activeChanged, this, tellNotifications);
     tellNotifications(lifecycle_.isActive());

@@ -33,6 +33,7 @@ public:
         QSize size;                   ///< of the window; empty: as the screen allows
         Clock *clock = nullptr;       ///< see ApplicationServices
         RandomSource *random = nullptr;
+        QString reasonNotToStart; ///< when set, the program only shows this text and quits
     };
 
     /// Null when the program can't start; error then holds a sentence for the user.

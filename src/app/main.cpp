@@ -6,6 +6,7 @@
 #endif
 
 #include <QGuiApplication>
+#include <QTemporaryDir>
 #include <QTextStream>
 
 #include <memory>
@@ -56,18 +57,33 @@ int takeTour(const CommandLine &, int, char **)
 }
 #endif
 
+// Shows the reason in a window, because a program that was started with its icon has no standard error that anybody
+// reads.
+void showReason(kesto::Program::Options options, const QString &reason)
+{
+    const QTemporaryDir folder; // an empty one: the user's own cannot be used
+    options.dataFolder = folder.path();
+    options.reasonNotToStart = reason;
+    QString error;
+    const std::unique_ptr<kesto::Program> program = kesto::Program::start(options, &error);
+    if (program != nullptr)
+        QGuiApplication::exec();
+}
+
 int run(const CommandLine &line)
 {
+    const kesto::Program::Options options{
+        .dataFolder = line.dataFolder.isEmpty() ? kesto::ApplicationServices::defaultDataFolder() : line.dataFolder,
+        .resourcesFolder = {},
+        .language = line.language,
+        .device = line.device,
+        .size = {}};
     QString error;
-    const std::unique_ptr<kesto::Program> program = kesto::Program::start(
-        {.dataFolder = line.dataFolder.isEmpty() ? kesto::ApplicationServices::defaultDataFolder() : line.dataFolder,
-         .resourcesFolder = {},
-         .language = line.language,
-         .device = line.device,
-         .size = {}},
-        &error);
+    const std::unique_ptr<kesto::Program> program = kesto::Program::start(options, &error);
     if (program == nullptr) {
         QTextStream(stderr) << "kesto: " << error << Qt::endl;
+        if (line.dataFolder.isEmpty())
+            showReason(options, error);
         const bool wrongFolder =
             !line.dataFolder.isEmpty() && !kesto::ApplicationServices::canKeepData(line.dataFolder);
         return wrongFolder ? CommandLine::wrongArguments : 1;

@@ -8,15 +8,19 @@
 namespace kesto
 {
 
-IngredientReplacement::IngredientReplacement(ManagedObjectContext &context)
-    : context_(context)
+Result<IngredientReplacement> IngredientReplacement::load(ManagedObjectContext &context)
 {
-    FetchRequest purchases;
-    purchases.relationshipKeyPathsForPrefetching = {"ingredient"};
-    for (PurhaseIngredient *purchase : context.fetchOrLog<PurhaseIngredient>(purchases)) {
+    FetchRequest request;
+    request.relationshipKeyPathsForPrefetching = {"ingredient"};
+    const auto purchases = context.fetch<PurhaseIngredient>(request);
+    if (!purchases)
+        return tl::unexpected(purchases.error());
+    IngredientReplacement replacement(context);
+    for (PurhaseIngredient *purchase : *purchases) {
         if (Ingredient *line = purchase->ingredient())
-            purchases_[line].push_back(purchase);
+            replacement.purchases_[line].push_back(purchase);
     }
+    return replacement;
 }
 
 void IngredientReplacement::removeLines(Dish &dish)
@@ -37,7 +41,7 @@ void IngredientReplacement::remove(Ingredient &line)
     if (purchases_.contains(&line))
         kept_.push_back(&line);
     else
-        context_.deleteObject(line);
+        context_->deleteObject(line);
 }
 
 void IngredientReplacement::relinkPurchases(const Dish &dish)
@@ -57,7 +61,7 @@ void IngredientReplacement::relinkPurchases(const Dish &dish)
             purchase->setIngredient(successor);
             purchases_[successor].push_back(purchase);
         }
-        context_.deleteObject(*old);
+        context_->deleteObject(*old);
     }
     kept_.clear();
 }

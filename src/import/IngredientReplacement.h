@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Error.h"
+
 #include <QHash>
 #include <QString>
 
@@ -13,25 +15,29 @@ class Ingredient;
 class ManagedObjectContext;
 class PurhaseIngredient;
 
-/// Takes the old ingredient lines off the dishes of one import. A shopping-list line that pointed to a removed line is
-/// pointed to the new line of the same name of that dish, or keeps the old one as a product of its own.
+/// Replaces the ingredient lines of dishes during one import. A shopping-list line that points to a removed line is
+/// pointed to the dish's new line of the same name. Without one, the removed line stays as a product of its own.
 class IngredientReplacement
 {
 public:
-    explicit IngredientReplacement(ManagedObjectContext &context);
+    /// Reads the shopping list.
+    [[nodiscard]] static Result<IngredientReplacement> load(ManagedObjectContext &context);
 
-    /// Removes all lines of a dish when it has at least one Russian line; else it leaves the English ones where they
-    /// are.
+    /// Removes all lines of a dish that has at least one Russian line. The English lines of other dishes stay.
     void removeLines(Dish &dish);
-    /// To be called when the dish has its new lines.
+    /// Call this when the dish has its new lines.
     void relinkPurchases(const Dish &dish);
 
 private:
+    explicit IngredientReplacement(ManagedObjectContext &context)
+        : context_(&context)
+    {
+    }
     void remove(Ingredient &line);
 
-    ManagedObjectContext &context_;
-    QHash<Ingredient *, std::vector<PurhaseIngredient *>> purchases_; ///< those that point to a line, read once
-    std::vector<Ingredient *> kept_; ///< removed from the dish at hand but still in the shopping list
+    ManagedObjectContext *context_;
+    QHash<Ingredient *, std::vector<PurhaseIngredient *>> purchases_; ///< by the line that they point to
+    std::vector<Ingredient *> kept_; ///< removed from the current dish but still in the shopping list
 };
 
 } // namespace kesto

@@ -11,8 +11,11 @@
 #include "util/SKHelpManager.h"
 
 #include <QFile>
+#include <QStringDecoder>
 
+#include <map>
 #include <stdexcept>
+#include <utility>
 
 namespace kesto
 {
@@ -28,7 +31,7 @@ const QStringList &textKeys()
     return keys;
 }
 
-/// Why an element of the catalogue can't be a dish; null when it can.
+/// Why an element of the catalogue cannot be a dish; null when it can.
 QString fault(const QVariant &element)
 {
     if (element.typeId() != QMetaType::QVariantMap)
@@ -66,26 +69,90 @@ void addLines(ManagedObjectContext &context, const QVariantList &names, Dish &di
     }
 }
 
-/// The dishes with all that an update touches, in a number of statements that does not depend on how many there are.
-std::vector<Dish *> loadCatalogue(ManagedObjectContext &context)
+/// The part of the store that an import changes. It is read before the first change, so a failed read changes nothing.
+class StoredCatalogue
 {
-    FetchRequest everything;
-    everything.relationshipKeyPathsForPrefetching = {"dishCategory", "ingredientsRU", "ingredientsENG",
-                                                     "ingredientsRU.purchaseIngredient",
-                                                     "ingredientsENG.purchaseIngredient"};
-    return context.fetchOrLog<Dish>(everything);
-}
+public:
+    [[nodiscard]] static Result<StoredCatalogue> load(ManagedObjectContext &context)
+    {
+        FetchRequest request;
+        request.relationshipKeyPathsForPrefetching = {"dishCategory", "ingredientsRU", "ingredientsENG",
+                                                      "ingredientsRU.purchaseIngredient",
+                                                      "ingredientsENG.purchaseIngredient"};
+        const auto dishes = context.fetch<Dish>(request);
+        if (!dishes)
+            return tl::unexpected(dishes.error());
+        const auto categories = context.fetch<DishesCategory>();
+        if (!categories)
+            return tl::unexpected(categories.error());
+        auto replacement = IngredientReplacement::load(context);
+        if (!replacement)
+            return tl::unexpected(replacement.error());
+        StoredCatalogue stored(context, std::move(*replacement));
+        // Of several matches the first counts, as for a fetch with the limit 1.
+        for (Dish *dish : *dishes)
+            stored.dishes_.try_emplace(dish->dishID(), dish);
+        for (DishesCategory *category : *categories)
+            stored.categories_.try_emplace(category->nameRU(), category);
+        return stored;
+    }
 
-/// Something could not be read: going on would make dishes and categories a second time.
-void endWithoutImport(ManagedObjectContext &context)
+    /// As Dish::dishWithID().
+    [[nodiscard]] Dish &dish(const QString &dishID)
+    {
+        Dish *&known = dishes_[dishID];
+        if (known == nullptr)
+            known = &Dish::insertWithID(dishID, context_);
+        return *known;
+    }
+    /// As DishesCategory::dishCategoryWirhRusName().
+    [[nodiscard]] DishesCategory &category(const QString &rusName, const QString &engName)
+    {
+        DishesCategory *&known = categories_[rusName];
+        if (known == nullptr)
+            known = &DishesCategory::insertWithRusName(rusName, engName, context_);
+        return *known;
+    }
+    [[nodiscard]] IngredientReplacement &replacement() { return replacement_; }
+
+private:
+    /// Absent comes before empty.
+    struct Order
+    {
+        bool operator()(const QString &left, const QString &right) const
+        {
+            return std::pair(!left.isNull(), left) < std::pair(!right.isNull(), right);
+        }
+    };
+
+    StoredCatalogue(ManagedObjectContext &context, IngredientReplacement replacement)
+        : context_(context)
+        , replacement_(std::move(replacement))
+    {
+    }
+
+    ManagedObjectContext &context_;
+    IngredientReplacement replacement_;
+    std::map<QString, Dish *, Order> dishes_;
+    std::map<QString, DishesCategory *, Order> categories_;
+};
+
+/// Reads what is stored, lets `change` work on it, and saves.
+template <class Change>
+Result<void> importInto(ManagedObjectContext &context, const Change &change)
 {
-    context.rollback();
-    log(QStringLiteral("end parsing"));
+    auto stored = StoredCatalogue::load(context);
+    if (!stored) {
+        log("the catalogue could not be imported: %@", stored.error().message());
+        return tl::unexpected(stored.error());
+    }
+    change(*stored);
+    return context.save();
 }
 
 const QString kIdMarker = QStringLiteral("ID\":\"");
 
-/// A digit of the earlier catalogue counts the phases from 1.
+/// The earlier catalogue counts the phases from 1.
 QString shiftedPeriod(QString period)
 {
     for (const auto &[from, to] : {std::pair(u'1', u'0'), {u'2', u'1'}, {u'3', u'2'}, {u'4', u'3'}})
@@ -111,58 +178,93 @@ QVariantMap parsedRecord(const QString &piece)
     return record;
 }
 
-} // namespace
-
-void SQLiteParser::parse()
+Result<void> importRecipes(ManagedObjectContext &context)
 {
-    log(QStringLiteral("start parsing"));
-    ManagedObjectContext &context = *CoreDataManager::sharedManager().managedObjectContext();
     const QVariantList recipes = SKHelpManager::arrayFromPlist(QStringLiteral("recipes")).value_or(QVariantList());
     for (qsizetype i = 0; i < recipes.size(); ++i) {
         if (const QString reason = fault(recipes[i]); !reason.isNull()) {
             log("recipes: element %ld %@, nothing was imported", i, reason);
-            log(QStringLiteral("end parsing"));
-            return;
+            return {};
         }
     }
-    (void)loadCatalogue(context);
-    IngredientReplacement replacement(context);
-    for (const QVariant &element : recipes) {
-        const QVariantMap record = element.toMap();
-        const QString dishID = text(record, "dishID");
-        const auto found = Dish::dishWithID(dishID, context);
-        const auto category =
-            DishesCategory::dishCategoryWirhRusName(text(record, "catRU"), text(record, "catENG"), context);
-        if (!found || !category) {
-            endWithoutImport(context);
-            return;
+    return importInto(context, [&](StoredCatalogue &stored) {
+        for (const QVariant &element : recipes) {
+            const QVariantMap record = element.toMap();
+            const QString dishID = text(record, "dishID");
+            Dish &dish = stored.dish(dishID);
+            dish.setNameRU(text(record, "nameRU"));
+            dish.setNameENG(text(record, "nameENG"));
+            dish.setDietPeriod(text(record, "dietPeriod"));
+            dish.setDishID(dishID);
+            dish.setRecipeENG(text(record, "recipeENG"));
+            dish.setRecipeRU(text(record, "recipeRU"));
+            dish.setDishCategory(&stored.category(text(record, "catRU"), text(record, "catENG")));
+            stored.replacement().removeLines(dish);
+            addLines(context, record.value(QStringLiteral("ingredientsRU")).toList(), dish, &Dish::addIngredientsRU);
+            addLines(context, record.value(QStringLiteral("ingredientsENG")).toList(), dish, &Dish::addIngredientsENG);
+            stored.replacement().relinkPurchases(dish);
         }
-        Dish &dish = **found;
-        dish.setNameRU(text(record, "nameRU"));
-        dish.setNameENG(text(record, "nameENG"));
-        dish.setDietPeriod(text(record, "dietPeriod"));
-        dish.setDishID(dishID);
-        dish.setRecipeENG(text(record, "recipeENG"));
-        dish.setRecipeRU(text(record, "recipeRU"));
-        dish.setDishCategory(*category);
-        replacement.removeLines(dish);
-        addLines(context, record.value(QStringLiteral("ingredientsRU")).toList(), dish, &Dish::addIngredientsRU);
-        addLines(context, record.value(QStringLiteral("ingredientsENG")).toList(), dish, &Dish::addIngredientsENG);
-        replacement.relinkPurchases(dish);
-    }
-    context.saveOrKeepChanges();
-    log(QStringLiteral("end parsing"));
+    });
 }
 
-QVariantList SQLiteParser::parsedRecipesFromFile(const QString &name)
+Result<void> importOldRecipes(ManagedObjectContext &context)
+{
+    const Result<QVariantList> records = SQLiteParser::parsedRecipesFromFile(QStringLiteral("dishes"));
+    if (!records) {
+        log("dishes: %@, nothing was imported", records.error().message());
+        return {};
+    }
+    return importInto(context, [&](StoredCatalogue &stored) {
+        for (const QVariant &element : *records) {
+            const QVariantMap record = element.toMap();
+            Dish &dish = stored.dish(text(record, "ID"));
+            stored.replacement().removeLines(dish);
+            dish.setNameRU(text(record, "ProdName"));
+            dish.setNameENG(text(record, "ProdNameEng"));
+            dish.setDietPeriod(shiftedPeriod(text(record, "ProdCat")));
+            dish.setRecipeENG(text(record, "ProdTxtEng"));
+            dish.setRecipeRU(text(record, "ProdTxt"));
+            dish.setDishCategory(&stored.category(text(record, "Category"), text(record, "CategoryEng")));
+            SQLiteParser::addIngredientsToDish(&dish, record.value(QStringLiteral("Ingred")).toStringList(),
+                                               QStringLiteral("dishRU"), context);
+            SQLiteParser::addIngredientsToDish(&dish, record.value(QStringLiteral("IngredEng")).toStringList(),
+                                               QStringLiteral("dishENG"), context);
+            stored.replacement().relinkPurchases(dish);
+        }
+    });
+}
+
+} // namespace
+
+Result<void> SQLiteParser::parse()
+{
+    log(QStringLiteral("start parsing"));
+    const Result<void> done = importRecipes(*CoreDataManager::sharedManager().managedObjectContext());
+    log(QStringLiteral("end parsing"));
+    return done;
+}
+
+Result<QVariantList> SQLiteParser::parsedRecipesFromFile(const QString &name)
 {
     QFile file(Platform::current().resourcesFolder() + QLatin1Char('/') + name + QStringLiteral(".json"));
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
+        log("%@: %@", file.fileName(), file.errorString());
         return {};
+    }
+    QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless); // an incomplete end is an error, too
+    const QString text = decode(file.readAll());
+    if (file.error() != QFile::NoError || decode.hasError()) {
+        log("%@: %@", file.fileName(), decode.hasError() ? QStringLiteral("not UTF-8") : file.errorString());
+        return {};
+    }
     QVariantList records;
-    const QStringList pieces = QString::fromUtf8(file.readAll()).split(kIdMarker);
-    for (const QString &piece : pieces.mid(1))
-        records.append(parsedRecord(piece));
+    for (const QString &piece : text.split(kIdMarker).mid(1)) {
+        try {
+            records.append(parsedRecord(piece));
+        } catch (const std::out_of_range &reason) {
+            return failure(QStringLiteral("a record is incomplete"), file.fileName(), QString::fromUtf8(reason.what()));
+        }
+    }
     return records;
 }
 
@@ -176,43 +278,12 @@ void SQLiteParser::addIngredientsToDish(Dish *dish, const QStringList &fromArray
     }
 }
 
-void SQLiteParser::oldParse()
+Result<void> SQLiteParser::oldParse()
 {
     log(QStringLiteral("start parsing"));
-    QVariantList records;
-    try {
-        records = parsedRecipesFromFile(QStringLiteral("dishes"));
-    } catch (const std::out_of_range &reason) {
-        log("dishes: a record is incomplete (%@), nothing was imported", reason.what());
-    }
-    ManagedObjectContext &context = *CoreDataManager::sharedManager().managedObjectContext();
-    (void)loadCatalogue(context);
-    IngredientReplacement replacement(context);
-    for (const QVariant &element : std::as_const(records)) {
-        const QVariantMap record = element.toMap();
-        const auto found = Dish::dishWithID(text(record, "ID"), context);
-        const auto category =
-            DishesCategory::dishCategoryWirhRusName(text(record, "Category"), text(record, "CategoryEng"), context);
-        if (!found || !category) {
-            endWithoutImport(context);
-            return;
-        }
-        Dish &dish = **found;
-        replacement.removeLines(dish);
-        dish.setNameRU(text(record, "ProdName"));
-        dish.setNameENG(text(record, "ProdNameEng"));
-        dish.setDietPeriod(shiftedPeriod(text(record, "ProdCat")));
-        dish.setRecipeENG(text(record, "ProdTxtEng"));
-        dish.setRecipeRU(text(record, "ProdTxt"));
-        dish.setDishCategory(*category);
-        addIngredientsToDish(&dish, record.value(QStringLiteral("Ingred")).toStringList(), QStringLiteral("dishRU"),
-                             context);
-        addIngredientsToDish(&dish, record.value(QStringLiteral("IngredEng")).toStringList(), QStringLiteral("dishENG"),
-                             context);
-        replacement.relinkPurchases(dish);
-    }
-    context.saveOrKeepChanges();
+    const Result<void> done = importOldRecipes(*CoreDataManager::sharedManager().managedObjectContext());
     log(QStringLiteral("end parsing"));
+    return done;
 }
 
 } // namespace kesto

@@ -34,13 +34,15 @@ void UpdatingDatabaseViewController::viewDidLoad()
 
 void UpdatingDatabaseViewController::importWhenReady()
 {
-    if (CoreDataManager::sharedManager().managedObjectContext() == nullptr)
-        return;
+    CoreDataManager &manager = CoreDataManager::sharedManager();
+    if (manager.managedObjectContext() == nullptr || !manager.isStoreOpen())
+        return; // without a store there is nothing to import into; the user decides what happens
     timer_.stop();
-    SQLiteParser::parse();
+    const Result<void> done = SQLiteParser::parse();
     UserDefaults &defaults = Platform::current().userDefaults();
     defaults.setValue(appVersion_, Keys::kAppVersionKey);
-    defaults.synchronize();
+    defaults.setValue(done ? QVariant() : QVariant(true), Keys::kImportFailedKey);
+    defaults.synchronize(); // a failure is logged; the import is then repeated at the next start
     dismissViewController(true);
 }
 

@@ -8,8 +8,8 @@
 namespace kesto
 {
 
-/// Covers everything while the shipped catalogue is copied into the store, and notes the version whose catalogue it is
-/// when that is done; an import that was cut short is done again at the next start.
+/// Covers everything while the shipped catalogue is copied into the store, then records the version of that catalogue.
+/// An import that was interrupted is repeated at the next start.
 class UpdatingDatabaseViewController : public ViewController
 {
     Q_OBJECT
@@ -18,13 +18,13 @@ class UpdatingDatabaseViewController : public ViewController
 public:
     using ViewController::ViewController;
 
-    /// 1: the store holds an earlier catalogue; otherwise none.
+    /// 1 when the store holds an earlier catalogue.
     [[nodiscard]] int mode() const { return mode_; }
     void setMode(int mode);
-    /// The version that is noted.
+    /// The version to record.
     [[nodiscard]] QString appVersion() const { return appVersion_; }
     void setAppVersion(const QString &version) { appVersion_ = version; }
-    /// Runs from the loading of the screen until the import begins.
+    /// Runs until the store is open and the import begins.
     [[nodiscard]] QTimer &timer() { return timer_; }
 
     [[nodiscard]] QString text() const;

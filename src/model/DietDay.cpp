@@ -26,7 +26,7 @@ EntityDescription DietDay::description()
               .inverse = "dietDays",
               .toMany = true,
               .deleteRule = DeleteRule::Cascade},
-             {.name = "jornalDay", .destination = "JornalDay", .inverse = "day"}},
+             {.name = "jornalDay", .destination = "JornalDay", .inverse = "day", .deleteRule = DeleteRule::Cascade}},
             &kTypeTag,
             &makeObject<DietDay>};
 }

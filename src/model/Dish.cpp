@@ -97,10 +97,15 @@ Result<Dish *> Dish::dishWithID(const QString &dishID, ManagedObjectContext &inM
     auto known = lastMatchOrLog<Dish>(inManagedObjectContext, attribute("dishID") == dishID, "dishWithID");
     if (!known || *known != nullptr)
         return known;
-    auto &dish = inManagedObjectContext.insert<Dish>();
+    return &insertWithID(dishID, inManagedObjectContext);
+}
+
+Dish &Dish::insertWithID(const QString &dishID, ManagedObjectContext &context)
+{
+    auto &dish = context.insert<Dish>();
     dish.setDishID(dishID);
     dish.setRecipeNew(true);
-    return &dish;
+    return dish;
 }
 
 Dish *Dish::dishWithRusName(const QString &nameRU, ManagedObjectContext &inManagedObjectContext)

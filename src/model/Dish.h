@@ -28,6 +28,8 @@ public:
     /// The dish of an identifier. A new one is marked as a new recipe and not saved. An error, which was logged, when
     /// it could not be looked up.
     [[nodiscard]] static Result<Dish *> dishWithID(const QString &dishID, ManagedObjectContext &inManagedObjectContext);
+    /// A new dish of an identifier, marked as a new recipe.
+    static Dish &insertWithID(const QString &dishID, ManagedObjectContext &context);
     /// The dish of exactly this Russian name; null when there is none or, with a line in the log, when it could not be
     /// looked up.
     [[nodiscard]] static Dish *dishWithRusName(const QString &nameRU, ManagedObjectContext &inManagedObjectContext);

@@ -52,13 +52,19 @@ Result<DishesCategory *> DishesCategory::dishCategoryWirhRusName(const QString &
     auto known = lastMatchOrLog<DishesCategory>(inManagedObjectContext, sameName, "dishCategoryWirhRusName");
     if (!known || *known != nullptr)
         return known;
+    return &insertWithRusName(rusName, engName, inManagedObjectContext);
+}
+
+DishesCategory &DishesCategory::insertWithRusName(const QString &rusName, const QString &engName,
+                                                  ManagedObjectContext &context)
+{
     log("create category - %@|%@", rusName, engName);
-    auto &category = inManagedObjectContext.insert<DishesCategory>();
+    auto &category = context.insert<DishesCategory>();
     category.setNameRU(rusName);
     category.setNameENG(engName);
     const auto position = categoriesInOrder().indexOf(rusName);
     category.setDisplayOrder(position >= 0 ? static_cast<quint32>(position) : kUnknownOrder);
-    return &category;
+    return category;
 }
 
 } // namespace kesto

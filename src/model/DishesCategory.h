@@ -31,6 +31,9 @@ public:
     [[nodiscard]] static Result<DishesCategory *> dishCategoryWirhRusName(const QString &rusName,
                                                                           const QString &engName,
                                                                           ManagedObjectContext &inManagedObjectContext);
+    /// A new category with both names and the display order of its Russian name.
+    static DishesCategory &insertWithRusName(const QString &rusName, const QString &engName,
+                                             ManagedObjectContext &context);
 
     [[nodiscard]] QString nameRU() const { return textAt(0); } ///< the key
     void setNameRU(const QString &value) { setTextAt(0, value); }

@@ -10,6 +10,8 @@
 #include "platform/UserDefaults.h"
 #include "store/Keys.h"
 
+#include <QHash>
+
 namespace kesto
 {
 
@@ -61,7 +63,7 @@ PersistentStoreCoordinator *CoreDataManager::persistentStoreCoordinator()
 {
     if (coordinator_ == nullptr) {
         coordinator_ = std::make_unique<PersistentStoreCoordinator>(managedObjectModel());
-        coordinator_->performLocked([this] { attachStores(); });
+        attachInBackground([this] { return attachStores(); });
     }
     return coordinator_.get();
 }
@@ -86,7 +88,7 @@ void CoreDataManager::cloudStoreChanged()
     const QDateTime start = cloudStore_->objectForKey(Keys::kStartDietDateKey).toDateTime();
     startDietDay_ = start.isValid() ? std::optional(start.toUTC()) : std::nullopt;
     defaults.setValue(startDietDay_ ? QVariant(*startDietDay_) : QVariant(), Keys::kStartDietDateKey);
-    // The ideal weight loses its fraction on this way.
+    // Stored as integers, so the ideal weight loses its fraction.
     for (const QString &key : {Keys::kPeriod1Key, Keys::kPeriod2Key, Keys::kPeriod3Key, Keys::kIdealWidth})
         defaults.setInteger(static_cast<qint64>(cloudStore_->objectForKey(key).toDouble()), key);
     defaults.setValue(cloudStore_->objectForKey(Keys::kFavoriteDishesKey), Keys::kFavoriteDishesKey);
@@ -101,17 +103,57 @@ void CoreDataManager::updateSqliteFileForNewStartDietDay()
     const std::optional<QDateTime> start = defaults.dateForKey(Keys::kStartDietDateKey);
     ManagedObjectContext *context = managedObjectContext();
     if (!start || context == nullptr)
-        return; // without a start no day lies before it and none can be counted from it
-    FetchRequest earlier;
-    earlier.predicate = attribute("date") < *start;
-    for (DietDay *day : context->fetchOrLog<DietDay>(earlier))
-        context->deleteObject(*day);
-    const qint64 days = defaults.integerForKey(Keys::kPeriod1Key);
-    for (qint64 i = 0; i < days; ++i) {
-        if (const auto day = DietDay::dietDatWithDate(start->addSecs(i * 86400), *context))
-            (*day)->setChB(true);
-    }
+        return;
+    deleteDietDaysBefore(*start);
+    markAttackDays(*start, defaults.integerForKey(Keys::kPeriod1Key));
     context->saveOrKeepChanges();
+}
+
+Result<std::vector<DietDay *>> CoreDataManager::dietDaysBefore(const QDateTime &date)
+{
+    FetchRequest earlier;
+    earlier.predicate = attribute("date") < date;
+    return managedObjectContext()->fetch<DietDay>(earlier);
+}
+
+void CoreDataManager::deleteDietDaysBefore(const QDateTime &date)
+{
+    const auto days = dietDaysBefore(date);
+    if (!days) {
+        log("the days before the start could not be deleted: %@", days.error().message());
+        return;
+    }
+    for (DietDay *day : *days)
+        context_->deleteObject(*day);
+}
+
+void CoreDataManager::markAttackDays(const QDateTime &start, qint64 days)
+{
+    if (days < 1)
+        return;
+    constexpr qint64 secondsPerDay = 86400;
+    // Does the same as dietDatWithDate() for each date, but a long Attack takes one fetch and one save.
+    FetchRequest request;
+    request.predicate = attribute("date") >= start && attribute("date") <= start.addSecs((days - 1) * secondsPerDay);
+    const auto stored = managedObjectContext()->fetch<DietDay>(request);
+    if (!stored) {
+        log("the Attack days could not be marked: %@", stored.error().message());
+        return;
+    }
+    QHash<QDateTime, DietDay *> known;
+    for (DietDay *day : *stored) {
+        if (day->date() && !known.contains(*day->date()))
+            known.insert(*day->date(), day);
+    }
+    for (qint64 i = 0; i < days; ++i) {
+        const QDateTime date = start.addSecs(i * secondsPerDay);
+        DietDay *day = known.value(date);
+        if (day == nullptr) {
+            day = &context_->insert<DietDay>();
+            day->setDate(date);
+        }
+        day->setChB(true);
+    }
 }
 
 void CoreDataManager::reparseSqliteIfNeeded(const std::function<void()> &parse)
@@ -129,7 +171,7 @@ int CoreDataManager::dietPeriodForCalendar(const Calendar &calendar, const QDate
 {
     const UserDefaults &defaults = Platform::current().userDefaults();
     const std::optional<QDateTime> start = defaults.dateForKey(Keys::kStartDietDateKey);
-    // Without a start there is nothing to count from: the difference is no time at all.
+    // Without a start every date counts as the first day.
     const qint64 day = start ? calendar.wholeUnits(Calendar::Unit::Day, *start, date) : 0;
     const qint64 attack = defaults.integerForKey(Keys::kPeriod1Key);
     const qint64 cruise = attack + defaults.integerForKey(Keys::kPeriod2Key);

@@ -1,4 +1,4 @@
-// How the store manager proposes the dishes of a day.
+// The store manager's proposal of dishes for a day.
 
 #include "model/Dish.h"
 #include "model/DishesCategory.h"
@@ -13,10 +13,10 @@ namespace kesto
 namespace
 {
 
-/// The places in the catalogue of the categories that a day is made of.
+/// The display orders of the categories that the automatic filling uses.
 const std::vector<quint32> categoriesOfDay{1, 2, 3, 5, 7};
 constexpr int batchSize = 100;
-/// So many draws that miss the other dishes do not happen by chance.
+/// A uniform source reaches this limit with two dishes once in 2^64 proposals.
 constexpr int mostDraws = 64;
 
 Dish *drawn(RandomSource &random, const std::vector<Dish *> &dishes)
@@ -24,14 +24,14 @@ Dish *drawn(RandomSource &random, const std::vector<Dish *> &dishes)
     return dishes[random.uniform(static_cast<quint32>(dishes.size()))];
 }
 
-/// One of at least two dishes that is not the one taken already.
+/// One of at least two dishes, other than the one taken already.
 Dish *drawnBeside(const Dish *taken, RandomSource &random, const std::vector<Dish *> &dishes)
 {
     Dish *found = drawn(random, dishes);
     for (int draws = 1; found == taken; ++draws) {
         log("check dish - %@", found->nameRU());
         log(QStringLiteral("alredy selected dish - skip it"));
-        // A source that gives the same number for ever must not hold the program: then it is the first other dish.
+        // A source that always gives the same number must not hang the program; take the first other dish then.
         found = draws < mostDraws ? drawn(random, dishes) : dishes[dishes.front() == taken ? 1 : 0];
     }
     log("check dish - %@", found->nameRU());

@@ -1,4 +1,4 @@
-// What the store manager does with the shopping list.
+// The store manager's operations on the shopping list.
 
 #include "model/Dish.h"
 #include "model/Ingredient.h"
@@ -34,7 +34,7 @@ std::vector<PurhaseIngredient *> CoreDataManager::purhaseIngredients()
     request.fetchBatchSize = 100;
     request.relationshipKeyPathsForPrefetching = {"ingredient"}; // every line shows its product's name
     std::vector<PurhaseIngredient *> lines = context_->fetchOrLog<PurhaseIngredient>(request);
-    // Of those that came in one instant the last is the first, too.
+    // Lines of the same instant: the one inserted last comes first.
     for (auto run = lines.begin(); run != lines.end();) {
         const auto end = std::find_if(
             run, lines.end(), [date = (*run)->date()](const PurhaseIngredient *line) { return line->date() != date; });

@@ -1,11 +1,10 @@
-// What the store manager answers about the catalogue.
+// The store manager's queries and operations on the catalogue.
 
 #include "model/Dish.h"
 #include "model/DishInDietDay.h"
 #include "model/DishesCategory.h"
 #include "model/Ingredient.h"
 #include "model/Lookup.h"
-#include "platform/Log.h"
 #include "platform/Platform.h"
 #include "platform/PropertyList.h"
 #include "store/CoreDataManager.h"
@@ -24,7 +23,7 @@ QVariantList names(const std::vector<Ingredient *> &lines)
     return list;
 }
 
-/// Lines of the shopping list outlive the dish that they came from: what they name becomes a product of its own.
+/// Makes ingredient lines that are on the shopping list products of their own, so that they outlive their dish.
 void keepPurchases(const std::vector<Ingredient *> &lines)
 {
     for (Ingredient *line : lines) {
@@ -58,6 +57,14 @@ QVariantList CoreDataManager::dishesForDietPeriod(int period)
     return sections;
 }
 
+bool CoreDataManager::holdsNoDish()
+{
+    FetchRequest request;
+    request.fetchLimit = 1;
+    const auto dishes = managedObjectContext()->fetch<Dish>(request);
+    return dishes && dishes->empty();
+}
+
 DishesCategory *CoreDataManager::dishesCategoryForIndex(int index)
 {
     return lastMatchOrLog<DishesCategory>(*context_, attribute("displayOrder") == index, "dishesCategoryForIndex")
@@ -77,13 +84,16 @@ void CoreDataManager::deleteDish(Dish &dish)
     context.saveOrKeepChanges();
 }
 
-bool CoreDataManager::saveRecipesToPlist()
+Result<void> CoreDataManager::saveRecipesToPlist()
 {
     FetchRequest request;
     request.sortDescriptors = {{"dishID"}};
     request.relationshipKeyPathsForPrefetching = {"dishCategory", "ingredientsRU", "ingredientsENG"};
+    const auto dishes = managedObjectContext()->fetch<Dish>(request);
+    if (!dishes)
+        return tl::unexpected(dishes.error());
     QVariantList recipes;
-    for (const Dish *dish : context_->fetchOrLog<Dish>(request)) {
+    for (const Dish *dish : *dishes) {
         QVariantMap recipe{{QStringLiteral("ingredientsRU"), names(dish->ingredientsRU())},
                            {QStringLiteral("ingredientsENG"), names(dish->ingredientsENG())}};
         const auto put = [&recipe](const char *key, const QString &text) {
@@ -102,11 +112,7 @@ bool CoreDataManager::saveRecipesToPlist()
         }
         recipes.append(recipe);
     }
-    const Result<void> written =
-        PropertyList::write(recipes, platform_.documentsFolder() + QStringLiteral("/recipes.plist"));
-    if (!written)
-        log(written.error().message());
-    return written.has_value();
+    return PropertyList::write(recipes, platform_.documentsFolder() + QStringLiteral("/recipes.plist"));
 }
 
 } // namespace kesto

@@ -22,10 +22,12 @@ inline const QString kDisableiCloud = QStringLiteral("kDisableiCloud");       //
 inline const QString kOldDataMerged = QStringLiteral("old data merged"); ///< flag: the local data are in the cloud file
 inline const QString kFavoriteDishesKey = QStringLiteral("kFavoriteDishesKey"); ///< array of Russian dish names
 inline const QString kAppVersionKey = QStringLiteral("kAppVersionKey");         ///< text: version of the last import
-inline const QString kPasscodeKey = QStringLiteral("kPasscodeKey");     ///< text: there is a lock while it is set
-inline const QString kTimerKey = QStringLiteral("kTimerKey");           ///< date: when the countdown ends
+inline const QString kImportFailedKey = QStringLiteral("kImportFailedKey");     ///< flag: the last import was not saved
+inline const QString kPasscodeKey =
+    QStringLiteral("kPasscodeKey");                           ///< text: the passcode; the lock is on while it is set
+inline const QString kTimerKey = QStringLiteral("kTimerKey"); ///< date: when the countdown ends
 inline const QString kWaterWalskey = QStringLiteral("kWaterWalskey");   ///< dictionary: portions of drink
-inline const QString kDishSendedKey = QStringLiteral("kDishSendedKey"); ///< flag: thanks were said for a recipe
+inline const QString kDishSendedKey = QStringLiteral("kDishSendedKey"); ///< flag: the thank-you for a recipe was shown
 
 } // namespace Keys
 

@@ -1,6 +1,7 @@
 #include "tour/TourStops.h"
 
 #include "app/RootViewConrollerViewController.h"
+#include "app/StoreAlert.h"
 #include "components/BKPasscodeLockScreenManager.h"
 #include "platform/Platform.h"
 #include "platform/UserDefaults.h"
@@ -26,6 +27,12 @@ void lockScreen(TourGuide &guide)
 {
     guide.platform().userDefaults().setValue(QStringLiteral("0000"), Keys::kPasscodeKey);
     BKPasscodeLockScreenManager::sharedManager().showLockScreen(false);
+}
+
+void damagedStore(TourGuide &guide)
+{
+    const QString path = guide.platform().documentsFolder() + QStringLiteral("/Diet.sqlite");
+    showStoreProblem({.kind = StoreProblem::Kind::Damaged, .path = path}, [](StoreAnswer) {});
 }
 
 } // namespace
@@ -58,6 +65,7 @@ QList<TourStop> tourStops()
         {QStringLiteral("tips"), row(11)},
         {QStringLiteral("info"), [](TourGuide &guide) { guide.menu().showInfo(); }},
         {QStringLiteral("settings"), [](TourGuide &guide) { guide.menu().showSettings(); }},
+        {QStringLiteral("damaged-store"), damagedStore},
         {QStringLiteral("lock"), lockScreen}, // last: nothing but the passcode closes it
     };
     return stops;

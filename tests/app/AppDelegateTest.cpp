@@ -5,10 +5,14 @@
 #include "components/NavigationController.h"
 #include "components/SideMenuContainer.h"
 #include "import/UpdatingDatabaseViewController.h"
+#include "model/DietDay.h"
 #include "model/Dish.h"
 #include "plan/CalendarViewController.h"
 #include "platform/PropertyList.h"
+#include "platform/objectgraph/PersistentStoreCoordinator.h"
 #include "store/CoreDataManager.h"
+
+#include <QDir>
 
 namespace kesto::test
 {
@@ -112,6 +116,84 @@ TEST_F(LaunchTest, ChecksTheVersionByExactComparison)
         launch();
         EXPECT_EQ(waitScreen() != nullptr ? waitScreen()->mode() : -1, each.mode);
     }
+}
+
+TEST_F(LaunchTest, ImportsAgainWhenTheFirstImportWasNotSaved)
+{
+    const auto launchesAnImport = [this] {
+        restart(QStringLiteral("1.0"));
+        launch();
+        EXPECT_TRUE(waitScreen() == nullptr || waitScreen()->mode() == 0);
+        return waitScreen() != nullptr;
+    };
+    EXPECT_FALSE(launchesAnImport());
+    defaults().setBool(true, Keys::kImportFailedKey);
+    EXPECT_TRUE(launchesAnImport());
+    CoreDataManager::sharedManager().managedObjectContext()->insert<Dish>();
+    CoreDataManager::sharedManager().managedObjectContext()->saveOrKeepChanges();
+    EXPECT_FALSE(launchesAnImport()) << "a later save took the dishes along";
+}
+
+class StoreProblemTest : public LaunchTest
+{
+protected:
+    [[nodiscard]] QString path() const { return platform_.documentsFolder() + QStringLiteral("/Diet.sqlite"); }
+    void launchOver(const QByteArray &content)
+    {
+        QFile file(path());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+        file.close();
+        launchAndSettle();
+    }
+    void launchAndSettle()
+    {
+        launch();
+        CoreDataManager::sharedManager().persistentStoreCoordinator()->waitForBackgroundWork();
+        turnEventLoop();
+    }
+};
+
+TEST_F(StoreProblemTest, ADamagedStoreIsToldAndMayBeSetAside)
+{
+    startDiet();
+    defaults().setInteger(3, Keys::kPeriod1Key);
+    launchOver("no database");
+    const ShownAlert *alert = AlertCenter::sharedCenter().current();
+    ASSERT_NE(alert, nullptr);
+    EXPECT_EQ(alert->title(), QStringLiteral("Не удалось открыть дневник"));
+    EXPECT_TRUE(alert->message().contains(path()));
+    EXPECT_TRUE(alert->message().contains(QStringLiteral("«Diet.sqlite.damaged-1»")));
+    ASSERT_EQ(alert->buttonTitles().size(), 2);
+    AlertCenter::sharedCenter().current()->answer(0);
+    EXPECT_TRUE(QFile::exists(path() + QStringLiteral(".damaged-1")));
+    ASSERT_NE(waitScreen(), nullptr);
+    EXPECT_EQ(waitScreen()->mode(), 0) << "the catalogue is imported into the new store";
+    const auto days = CoreDataManager::sharedManager().managedObjectContext()->fetch<DietDay>();
+    EXPECT_EQ(days.value().size(), 3U) << "the plan stays";
+    EXPECT_EQ(AlertCenter::sharedCenter().current(), nullptr);
+}
+
+TEST_F(StoreProblemTest, QuittingLeavesTheFile)
+{
+    int quits = 0;
+    launchOver("no database");
+    QObject::connect(delegate_.get(), &AppDelegate::quitRequested, [&] { ++quits; });
+    ASSERT_NE(AlertCenter::sharedCenter().current(), nullptr);
+    AlertCenter::sharedCenter().current()->cancel(); // as by Escape
+    EXPECT_EQ(quits, 1);
+    quit();
+    EXPECT_EQ(QDir(platform_.documentsFolder()).entryList(QDir::Files), QStringList(QStringLiteral("Diet.sqlite")));
+}
+
+TEST_F(StoreProblemTest, OtherProblemsLeaveOnlyToQuit)
+{
+    ASSERT_TRUE(QDir().mkpath(path())); // a folder in the way
+    launchAndSettle();
+    const ShownAlert *alert = AlertCenter::sharedCenter().current();
+    ASSERT_NE(alert, nullptr);
+    EXPECT_TRUE(alert->message().startsWith(QStringLiteral("Нет доступа к файлу с вашими данными.")));
+    EXPECT_TRUE(alert->message().contains(path()));
+    EXPECT_EQ(alert->buttonTitles(), QStringList(QStringLiteral("Выйти из программы")));
 }
 
 TEST_F(LaunchTest, OnlyAReminderThatStartsTheProgramCountsTheBadgeDown)

@@ -13,6 +13,8 @@
 
 #include <QFile>
 
+#include <sqlite3.h>
+
 #include <algorithm>
 #include <stdexcept>
 
@@ -61,7 +63,7 @@ QStringList ImportFixture::parse()
 {
     (void)context();
     LogCapture log;
-    SQLiteParser::parse();
+    (void)SQLiteParser::parse(); // what went wrong is in the log
     return log.take();
 }
 
@@ -136,6 +138,16 @@ void ImportFixture::makeReadOnly(bool readOnly)
 {
     ASSERT_TRUE(context().persistentStoreCoordinator().access()->execute(readOnly ? "PRAGMA query_only = 1"
                                                                                   : "PRAGMA query_only = 0"));
+}
+
+void ImportFixture::makeUnreadable(const char *entity)
+{
+    const auto deny = [](void *denied, int action, const char *table, const char *, const char *, const char *) {
+        return action == SQLITE_READ && qstrcmp(static_cast<const char *>(denied), table) == 0 ? SQLITE_DENY
+                                                                                               : SQLITE_OK;
+    };
+    const auto access = context().persistentStoreCoordinator().access();
+    sqlite3_set_authorizer(access->handle(), entity != nullptr ? +deny : nullptr, const_cast<char *>(entity));
 }
 
 } // namespace kesto::test

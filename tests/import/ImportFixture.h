@@ -48,6 +48,8 @@ protected:
     TestPlatform &platform() { return *platform_; }
     /// Every write to the store fails until it is set back.
     void makeReadOnly(bool readOnly);
+    /// Every read of an entity fails until it is set back with null.
+    void makeUnreadable(const char *entity);
 
 private:
     QTemporaryDir resources_;

@@ -8,8 +8,6 @@
 
 #include <gmock/gmock.h>
 
-#include <stdexcept>
-
 using namespace kesto;
 using namespace kesto::test;
 using testing::Contains;
@@ -36,7 +34,7 @@ protected:
     {
         (void)context();
         LogCapture log;
-        SQLiteParser::oldParse();
+        EXPECT_TRUE(SQLiteParser::oldParse());
         return log.take();
     }
 };
@@ -46,7 +44,7 @@ protected:
 TEST_F(OldCatalogueTest, RecordsAreCutOutOfTheText)
 {
     write({oldRecord("x1"), oldRecord("x2", "24", "\"Одна\"", "\"One, with a comma\"")});
-    const QVariantList records = SQLiteParser::parsedRecipesFromFile(kDishes);
+    const QVariantList records = SQLiteParser::parsedRecipesFromFile(kDishes).value_or(QVariantList());
     ASSERT_EQ(records.size(), 2);
     const QVariantMap expected{
         {QStringLiteral("ID"), QStringLiteral("x1")},
@@ -66,14 +64,16 @@ TEST_F(OldCatalogueTest, RecordsAreCutOutOfTheText)
 
 TEST_F(OldCatalogueTest, ATextWithoutRecordsHoldsNone)
 {
-    EXPECT_TRUE(SQLiteParser::parsedRecipesFromFile(QStringLiteral("missing")).isEmpty());
-    for (const char *text : {"", "[]", "{\"Name\":\"x\"}", "ID: x"}) {
+    EXPECT_TRUE(SQLiteParser::parsedRecipesFromFile(QStringLiteral("missing"))->isEmpty());
+    for (const QByteArray &text : {QByteArray(), QByteArray("[]"), QByteArray("{\"Name\":\"x\"}"), QByteArray("ID: x"),
+                                   oldRecord("x1").replace("Sauce", "\xff\xfe"), oldRecord("x1") + "\xd0"}) {
         writeResource("dishes.json", text);
-        EXPECT_TRUE(SQLiteParser::parsedRecipesFromFile(kDishes).isEmpty()) << text;
+        const auto records = SQLiteParser::parsedRecipesFromFile(kDishes);
+        EXPECT_TRUE(records && records->isEmpty()) << text.right(20).toStdString();
     }
 }
 
-TEST_F(OldCatalogueTest, AnIncompleteRecordIsARangeErrorAndImportsNothing)
+TEST_F(OldCatalogueTest, AnIncompleteRecordIsAnErrorAndImportsNothing)
 {
     write({oldRecord("x1")});
     (void)oldParse();
@@ -84,14 +84,14 @@ TEST_F(OldCatalogueTest, AnIncompleteRecordIsARangeErrorAndImportsNothing)
         QByteArray lacking = oldRecord("x3");
         lacking.replace('"' + QByteArray(key) + "\":", "\"Other\":");
         write({oldRecord("x1", "3"), oldRecord("x2"), lacking});
-        EXPECT_THROW((void)SQLiteParser::parsedRecipesFromFile(kDishes), std::out_of_range);
+        EXPECT_FALSE(SQLiteParser::parsedRecipesFromFile(kDishes).has_value());
         EXPECT_THAT(oldParse(),
                     Contains(testing::ResultOf(
                         [](const QString &line) { return line.startsWith(u"dishes: a record is incomplete"); }, true)));
         EXPECT_EQ(content(), before);
     }
     write({oldRecord("x2").replace("  Соус", "   ")});
-    EXPECT_THROW((void)SQLiteParser::parsedRecipesFromFile(kDishes), std::out_of_range) << "nothing but spaces";
+    EXPECT_FALSE(SQLiteParser::parsedRecipesFromFile(kDishes).has_value()) << "nothing but spaces";
 }
 
 TEST_F(OldCatalogueTest, PhasesCountFromZero)

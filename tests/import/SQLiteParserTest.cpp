@@ -7,17 +7,16 @@
 #include "model/Image.h"
 #include "model/Ingredient.h"
 #include "model/PurhaseIngredient.h"
+#include "objectgraph/StatementLog.h"
 #include "platform/PropertyList.h"
 #include "platform/UserDefaults.h"
-#include "platform/objectgraph/PersistentStoreCoordinator.h"
-#include "platform/objectgraph/SqlStore.h"
 #include "store/CoreDataManager.h"
 #include "store/Keys.h"
 #include "support/LogCapture.h"
 
 #include <gmock/gmock.h>
 
-#include <sqlite3.h>
+#include <QRegularExpression>
 
 using namespace kesto;
 using namespace kesto::test;
@@ -308,43 +307,23 @@ TEST_F(SQLiteParserTest, AMalformedFileIsLoggedAndChangesNothing)
 
 TEST_F(SQLiteParserTest, TheWholeImportIsOneTransaction)
 {
-    struct Counts
-    {
-        int begins = 0;
-        int commits = 0;
-        int writes = 0;
-        int writesOutside = 0;
-    } counts;
-    const auto traced = [](unsigned, void *data, void *statement, void *) {
-        auto &seen = *static_cast<Counts *>(data);
-        const QByteArray sql = QByteArray(sqlite3_sql(static_cast<sqlite3_stmt *>(statement))).toUpper();
-        seen.begins += sql.startsWith("BEGIN") ? 1 : 0;
-        seen.commits += sql.startsWith("COMMIT") || sql.startsWith("END") ? 1 : 0;
-        if (sql.startsWith("INSERT") || sql.startsWith("UPDATE") || sql.startsWith("DELETE")) {
-            ++seen.writes;
-            seen.writesOutside += seen.begins != seen.commits + 1 ? 1 : 0;
-        }
-        return 0;
-    };
+    StatementLog log;
+    restart();
     QVariantList recipes;
     for (int i = 0; i < 40; ++i)
         recipes.append(record(qPrintable(QStringLiteral("d%1").arg(i)), "А, Б, В", "A, B, C"));
     for (const char *run : {"first", "update"}) {
         SCOPED_TRACE(run);
-        counts = {};
-        {
-            const auto access = context().persistentStoreCoordinator().access();
-            sqlite3_trace_v2(access->handle(), SQLITE_TRACE_STMT, traced, &counts);
-        }
+        (void)context().fetch<Dish>();
+        (void)log.take();
         import(recipes);
-        {
-            const auto access = context().persistentStoreCoordinator().access();
-            sqlite3_trace_v2(access->handle(), 0, nullptr, nullptr);
-        }
-        EXPECT_EQ(counts.begins, 1);
-        EXPECT_EQ(counts.commits, 1);
-        EXPECT_GT(counts.writes, 0);
-        EXPECT_EQ(counts.writesOutside, 0);
+        const QStringList statements = log.take();
+        const auto begin = statements.indexOf(QRegularExpression(QStringLiteral("^BEGIN.*")));
+        const auto commit = statements.indexOf(QRegularExpression(QStringLiteral("^COMMIT.*")));
+        const QRegularExpression write(QStringLiteral("^(BEGIN|COMMIT|INSERT|UPDATE|DELETE)"));
+        EXPECT_GT(commit, begin + 1);
+        EXPECT_EQ(statements.filter(write).size(), statements.mid(begin, commit - begin + 1).filter(write).size());
+        EXPECT_EQ(statements.filter(QRegularExpression(QStringLiteral("^(BEGIN|COMMIT)"))).size(), 2);
     }
 }
 
@@ -368,6 +347,42 @@ TEST_F(SQLiteParserTest, AFailedSaveIsLoggedAndTheObjectsWaitForTheNextOne)
     EXPECT_EQ(content().size(), before.size() + 2);
 }
 
+TEST_F(SQLiteParserTest, AFailedReadEndsTheImportAndChangesNothing)
+{
+    import({record("a1", "А, Б", "A, B")});
+    buy(*dish("a1").ingredientsRU().front());
+    writeResource("recipes.plist", PropertyList::serialize(QVariantList{record("a1", "В"), record("a2", "Г")}).value());
+    restart();
+    const QStringList before = content();
+    for (const char *entity : {"Dish", "DishesCategory", "Ingredient", "PurhaseIngredient"}) {
+        SCOPED_TRACE(entity);
+        restart();
+        makeUnreadable(entity);
+        const QStringList lines = parse();
+        EXPECT_EQ(lines.filter(QStringLiteral("the catalogue could not be imported: ")).size(), 1);
+        EXPECT_EQ(lines.last(), QStringLiteral("end parsing"));
+        EXPECT_FALSE(SQLiteParser::parse().has_value());
+        EXPECT_FALSE(context().hasChanges());
+        makeUnreadable(nullptr);
+        EXPECT_EQ(content(), before);
+    }
+    ASSERT_TRUE(SQLiteParser::parse());
+    EXPECT_EQ(outline(dish("a1").ingredientsRU()), "0 В");
+}
+
+TEST_F(SQLiteParserTest, ACategoryWithoutARussianNameIsCreatedOnce)
+{
+    QVariantMap absent = record("a1", "");
+    absent.remove(QStringLiteral("catRU"));
+    QVariantMap empty = record("a2", "");
+    empty[QStringLiteral("catRU")] = QStringLiteral("");
+    for (int run = 0; run < 2; ++run) {
+        import({absent, empty});
+        EXPECT_EQ(count<DishesCategory>(), 2U) << "absent and empty differ";
+        restart();
+    }
+}
+
 TEST_F(SQLiteParserTest, TheShippedCatalogueComesWholeAndTwiceTheSame)
 {
     const QString path = QStringLiteral(KESTO_SHARE "/recipes.plist");
@@ -375,25 +390,14 @@ TEST_F(SQLiteParserTest, TheShippedCatalogueComesWholeAndTwiceTheSame)
     ASSERT_GE(recipes.size(), 320);
     import(recipes);
     restart();
+    EXPECT_EQ(count<Dish>(), static_cast<size_t>(recipes.size()));
+    EXPECT_EQ(count<DishesCategory>(), 9U);
     size_t lines = 0;
     for (const QVariant &element : recipes) {
         const QVariantMap one = element.toMap();
-        const Dish &imported = dish(qPrintable(one.value(QStringLiteral("dishID")).toString()));
-        SCOPED_TRACE(imported.dishID().toStdString());
-        EXPECT_EQ(imported.nameRU(), one.value(QStringLiteral("nameRU")).toString());
-        EXPECT_EQ(imported.recipeENG(), one.value(QStringLiteral("recipeENG")).toString());
-        EXPECT_EQ(imported.dishCategory()->nameRU(), one.value(QStringLiteral("catRU")).toString());
-        EXPECT_LT(imported.dishCategory()->displayOrder().value_or(99), 9U);
-        QStringList names;
-        for (const Ingredient *line : imported.ingredientsRU()) {
-            EXPECT_EQ(line->displayOrder(), static_cast<int>(names.size()));
-            names.append(line->name());
-        }
-        EXPECT_EQ(names, one.value(QStringLiteral("ingredientsRU")).toStringList());
-        lines += imported.ingredientsRU().size() + imported.ingredientsENG().size();
+        for (const char *list : {"ingredientsRU", "ingredientsENG"})
+            lines += static_cast<size_t>(one.value(QLatin1String(list)).toList().size());
     }
-    EXPECT_EQ(count<Dish>(), static_cast<size_t>(recipes.size()));
-    EXPECT_EQ(count<DishesCategory>(), 9U);
     EXPECT_EQ(count<Ingredient>(), lines);
 
     const QStringList before = content();

@@ -4,10 +4,13 @@
 #include "import/ImportFixture.h"
 #include "model/Dish.h"
 #include "platform/PropertyList.h"
+#include "platform/objectgraph/PersistentStoreCoordinator.h"
+#include "store/CoreDataManager.h"
 #include "store/Keys.h"
 #include "support/LogCapture.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
 
 namespace kesto::test
@@ -112,19 +115,6 @@ TEST_F(UpdatingDatabaseTest, TheVersionIsRecordedOnlyWhenTheImportIsOver)
     EXPECT_EQ(storedVersion(), QVariant(QStringLiteral("1.2")));
 }
 
-TEST_F(UpdatingDatabaseTest, AnImportThatWasCutShortIsDoneAtTheNextStart)
-{
-    writeCatalogue({record("1", "a")});
-    (void)present(QStringLiteral("1.2"));
-    leave();
-    restart();
-    EXPECT_FALSE(storedVersion().isValid());
-    EXPECT_EQ(dishCount(), 0U);
-    (void)runToTheEnd(present(QStringLiteral("1.2")));
-    EXPECT_EQ(dishCount(), 1U);
-    EXPECT_EQ(storedVersion(), QVariant(QStringLiteral("1.2")));
-}
-
 TEST_F(UpdatingDatabaseTest, AnUnreadableCatalogueAndAFullDiskStillEndTheWait)
 {
     const QStringList missing = runToTheEnd(present(QStringLiteral("1")));
@@ -139,6 +129,27 @@ TEST_F(UpdatingDatabaseTest, AnUnreadableCatalogueAndAFullDiskStillEndTheWait)
     makeReadOnly(false);
     EXPECT_EQ(failed.filter(QStringLiteral("error while saving context - ")).size(), 1);
     EXPECT_EQ(storedVersion(), QVariant(QStringLiteral("2")));
+    EXPECT_TRUE(Platform::current().userDefaults().boolForKey(Keys::kImportFailedKey));
+
+    leave();
+    (void)runToTheEnd(present(QStringLiteral("2")));
+    EXPECT_FALSE(Platform::current().userDefaults().valueForKey(Keys::kImportFailedKey).isValid());
+}
+
+TEST_F(UpdatingDatabaseTest, WaitsForTheStore)
+{
+    writeCatalogue({record("1", "a")});
+    ASSERT_TRUE(QDir().mkpath(platform().documentsFolder() + QStringLiteral("/Diet.sqlite"))); // cannot be opened
+    UpdatingDatabaseViewController &screen = present(QStringLiteral("1"));
+    screen.timer().setInterval(0);
+    CoreDataManager::sharedManager().persistentStoreCoordinator()->waitForBackgroundWork();
+    for (int tick = 0; tick < 5; ++tick)
+        QCoreApplication::processEvents();
+    EXPECT_FALSE(storedVersion().isValid());
+    EXPECT_FALSE(context().hasChanges());
+    ASSERT_TRUE(CoreDataManager::sharedManager().startWithEmptyStore());
+    finish();
+    EXPECT_EQ(dishCount(), 1U);
 }
 
 TEST_F(UpdatingDatabaseTest, SaysWhatItDoesAndCanNotBeLeft)

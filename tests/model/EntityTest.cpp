@@ -202,7 +202,7 @@ std::vector<Relationship> relationships()
 {
     return {
         pair("DietDay", "jornalDay", &DietDay::jornalDay, &DietDay::setJornalDay, "JornalDay", "day", &JornalDay::day,
-             &JornalDay::setDay, false),
+             &JornalDay::setDay, true),
         pair("Dish", "image", &Dish::image, &Dish::setImage, "Image", "dish", &Image::dish, &Image::setDish, true),
         toMany("Dish", "dishCategory", &Dish::dishCategory, &Dish::setDishCategory, "DishesCategory", "dishes",
                &DishesCategory::dishes, &DishesCategory::addDishes, &DishesCategory::removeDishes, false),

@@ -1,6 +1,5 @@
 #include "PlanFixture.h"
 
-#include "model/JornalDay.h"
 #include "platform/PropertyList.h"
 
 #include <QElapsedTimer>
@@ -38,40 +37,10 @@ struct Start
     std::unique_ptr<CalculatorViewController> screen;
 };
 
-TEST(DietStart, KeepsTheLongestLengthsAsTheyAreShown)
-{
-    Start start({.language = QStringLiteral("en")});
-    start.screen->endEditingText(2, 0, QStringLiteral("3"));
-    for (int row = 1; row < 3; ++row)
-        start.screen->endEditingText(2, row, QStringLiteral("99999999999999999999"));
-    const auto spans = start.screen->table()->rowAt({2, 3}).value.toList();
-    ASSERT_EQ(spans.size(), 4);
-    for (int i = 1; i < 3; ++i)
-        EXPECT_EQ(spans[i].toMap()[QStringLiteral("days")].toLongLong(), std::numeric_limits<int>::max());
-    start.startOn(start.program.dayStart(2024, 3, 7));
-    start.screen.reset();
-    start.shell.reset();
-    start.program.restart();
-    EXPECT_EQ(start.program.defaults().integerForKey(Keys::kPeriod2Key), std::numeric_limits<int>::max());
-    EXPECT_EQ(start.program.defaults().integerForKey(Keys::kPeriod3Key), std::numeric_limits<int>::max());
-    EXPECT_EQ(start.program.days().size(), 3);
-    CalendarViewController calendar;
-    calendar.loadViewIfNeeded();
-    EXPECT_EQ(calendar.periodName(), QStringLiteral("Attack"));
-    for (const QDate &month : {QDate(2024, 4, 1), QDate(9999, 12, 1)}) {
-        calendar.month()->showMonth(month);
-        const auto &cells = calendar.month()->cells();
-        EXPECT_TRUE(std::all_of(cells.begin(), cells.end(), [](const auto &cell) { return cell.dietPeriod == 1; }))
-            << month.year();
-    }
-}
-
 TEST(DietStart, LeadsFromAFreshProgramToTheCalendar)
 {
     for (const auto &[language, metric, title, cancel, go, period, weight] :
          {std::tuple("ru", true, "Начать диету с", "Отменить", "Начать", "Атака", "кг"),
-          std::tuple("ru", false, "Начать диету с", "Отменить", "Начать", "Атака", "lbs"),
-          std::tuple("en", true, "Start the diet on", "Cancel", "Start", "Attack", "kg"),
           std::tuple("en", false, "Start the diet on", "Cancel", "Start", "Attack", "lbs")}) {
         Start start({.language = QLatin1String(language), .cloud = true}, metric);
         start.screen->endEditingText(2, 1, QStringLiteral("33"));
@@ -180,61 +149,6 @@ TEST(DietStart, ThePlanIsOnDiskAtOnce)
     EXPECT_EQ(stored[Keys::kPeriod2Key], QVariant(-14LL));
     EXPECT_EQ(stored[Keys::kPeriod3Key], QVariant(-20LL));
     EXPECT_EQ(stored[Keys::kIdealWidth].toFloat(), 62);
-}
-
-TEST(DietStart, RestartKeepsLaterDaysAndEveryJournal)
-{
-    Start start;
-    PlanFixture &program = start.program;
-    start.startOn(program.dayStart(2024, 3, 10));
-    EXPECT_EQ(program.days(), texts({"2024-03-10 00:00 chB", "2024-03-11 00:00 chB"}));
-    auto &jornal = program.context().insert<JornalDay>();
-    jornal.setHotDay(true);
-    jornal.setDay(DietDay::dayWithoutCreation(program.dayStart(2024, 3, 10), program.context()));
-    ASSERT_TRUE(program.context().save());
-
-    // Earlier than all days: nothing is asked, the old Attack days stay marked.
-    start.startOn(program.dayStart(2024, 3, 1));
-    EXPECT_EQ(Start::alert(), nullptr);
-    EXPECT_EQ(program.days(),
-              texts({"2024-03-01 00:00 chB", "2024-03-02 00:00 chB", "2024-03-10 00:00 chB", "2024-03-11 00:00 chB"}));
-
-    // Later than some.
-    start.startOn(program.dayStart(2024, 3, 11));
-    ASSERT_TRUE(QTest::qWaitFor([] { return Start::alert() != nullptr; }));
-    Start::alert()->answer(1);
-    EXPECT_EQ(program.days(), texts({"2024-03-11 00:00 chB", "2024-03-12 00:00 chB"}));
-    start.screen.reset();
-    start.shell.reset();
-    program.restart();
-    EXPECT_EQ(program.days(), texts({"2024-03-11 00:00 chB", "2024-03-12 00:00 chB"}));
-    EXPECT_EQ(program.context().fetchOrLog<JornalDay>().size(), 1U) << "the journal's data is not touched";
-}
-
-TEST(DietStart, StepsByFixedDaysAcrossClockChanges)
-{
-    for (const auto &[year, month, day, expected] :
-         {std::tuple(2024, 3, 30, texts({"2024-03-30 00:00 chB", "2024-03-31 00:00 chB", "2024-04-01 01:00 chB"})),
-          std::tuple(2024, 10, 26, texts({"2024-10-26 00:00 chB", "2024-10-27 00:00 chB", "2024-10-27 23:00 chB"}))}) {
-        PlanFixture program;
-        CalculatorViewController screen;
-        screen.makeAttackPeriodForDate(program.dayStart(year, month, day), 3);
-        EXPECT_EQ(program.days(), expected);
-    }
-}
-
-TEST(DietStart, AttackDaysKeepWhatTheyHold)
-{
-    PlanFixture program;
-    CalculatorViewController screen;
-    const QDateTime first = program.dayStart(2024, 3, 7);
-    program.weigh(first.addSecs(86400), 71);
-    screen.makeAttackPeriodForDate(first, 0);
-    screen.makeAttackPeriodForDate(first, -3);
-    EXPECT_EQ(program.days(), texts({"2024-03-08 00:00"}));
-    screen.makeAttackPeriodForDate(first, 3);
-    EXPECT_EQ(program.days(), texts({"2024-03-07 00:00 chB", "2024-03-08 00:00 chB", "2024-03-09 00:00 chB"}));
-    EXPECT_EQ(program.weight(first.addSecs(86400)), 71);
 }
 
 TEST(DietStart, TakesDatesYearsAwayAndTheLongestAttack)

@@ -2,9 +2,6 @@
 
 #include "model/Dish.h"
 #include "model/DishesCategory.h"
-#include "objectgraph/StatementLog.h"
-
-#include <set>
 
 namespace kesto::test
 {
@@ -93,45 +90,6 @@ TEST_F(Autofill, LeavesOutWhatIsNotThere)
     EXPECT_EQ(proposal(1, {1}), "1b 5a");
     addCategory(3, {"0"});
     EXPECT_EQ(proposal(0, {0}), "1a 3a 7a") << "also of what is not saved";
-}
-
-TEST_F(Autofill, EveryDishHasItsTurn)
-{
-    addNineCategories();
-    std::set<std::string> proposals;
-    for (quint32 first = 0; first < 3; ++first) {
-        for (quint32 second = 0; second < 3; ++second)
-            proposals.insert(proposal(0, {first, second, 0, 0, 0, 0, 0}));
-    }
-    EXPECT_EQ(proposals.size(), 6U) << "ordered pairs of three dishes";
-}
-
-TEST(AutofillStatements, AreAsManyForManyDishes)
-{
-    QList<qsizetype> counts;
-    for (const int dishes : {2, 300}) {
-        StatementLog log;
-        StoreFixture program;
-        for (quint32 order = 0; order < 9; ++order) {
-            auto &category = program.context().insert<DishesCategory>();
-            category.setDisplayOrder(order);
-            for (int i = 0; i < dishes; ++i) {
-                auto &dish = program.context().insert<Dish>();
-                dish.setDietPeriod(QStringLiteral("0"));
-                category.addDishes(dish);
-            }
-        }
-        ASSERT_TRUE(program.context().save());
-        program.restart();
-        (void)program.context();
-        program.settle();
-        (void)log.take();
-        program.platform.random().set({0, 1});
-        EXPECT_EQ(program.manager().autoFilledDishesForPeriod(0).size(), 6U);
-        counts.append(log.count());
-    }
-    EXPECT_EQ(counts[0], counts[1]);
-    EXPECT_LE(counts[1], 3);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "StoreFixture.h"
 
 #include "model/DishInDietDay.h"
+#include "model/JornalDay.h"
 
 namespace kesto::test
 {
@@ -31,6 +32,7 @@ TEST(CalendarRebuild, DeletesEarlierDaysAndMarksTheAttackDays)
         program.weigh(start.addDays(day), 80);
     DietDay *earlier = DietDay::dayWithoutCreation(start.addDays(-1), program.context());
     program.context().insert<DishInDietDay>().setDietDays(earlier);
+    program.context().insert<JornalDay>().setDay(earlier);
     program.defaults().setValue(start, Keys::kStartDietDateKey);
     program.defaults().setInteger(3, Keys::kPeriod1Key);
     LogCapture log;
@@ -39,8 +41,9 @@ TEST(CalendarRebuild, DeletesEarlierDaysAndMarksTheAttackDays)
     EXPECT_FALSE(program.context().hasChanges());
     program.restart();
     EXPECT_THAT(attackDays(program.context()), ElementsAre(start, start.addDays(1), start.addDays(2)));
-    EXPECT_EQ(program.context().fetchOrLog<DietDay>().size(), 3U);
-    EXPECT_TRUE(program.context().fetchOrLog<DishInDietDay>().empty());
+    EXPECT_EQ(program.context().fetch<DietDay>()->size(), 3U);
+    EXPECT_TRUE(program.context().fetch<DishInDietDay>()->empty());
+    EXPECT_TRUE(program.context().fetch<JornalDay>()->empty());
     EXPECT_EQ(program.weight(start), 80); // a day that existed keeps what it has
 
     // Back by a week: nothing lies before it, and the later Attack days stay as they are.

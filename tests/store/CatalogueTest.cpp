@@ -23,45 +23,35 @@ Dish &addDish(ManagedObjectContext &context, const char *nameRU, const char *nam
     return dish;
 }
 
-std::vector<QStringList> sections(const QVariantList &found, const QString &nameKey)
+std::vector<QStringList> sections(const QVariantList &found)
 {
     std::vector<QStringList> result;
     for (const QVariant &element : found) {
         const QVariantMap section = element.toMap();
         QStringList texts{section.value(QStringLiteral("section name")).toString()};
         for (const QVariant &dish : section.value(QStringLiteral("section content")).toList())
-            texts.append(dish.value<KeyValueCoding *>()->valueForKey(nameKey).toString());
+            texts.append(dish.value<KeyValueCoding *>()->valueForKey(QStringLiteral("nameRU")).toString());
         result.push_back(texts);
     }
     return result;
 }
 
-TEST(CatalogueOfAPhase, IsSortedByCategoryAndByTheNameInTheLanguage)
+TEST(CatalogueOfAPhase, IsSortedByCategoryAndName)
 {
-    for (const bool russian : {true, false}) {
-        StoreFixture program({.language = russian ? QStringLiteral("ru") : QStringLiteral("en")});
-        ManagedObjectContext &context = program.context();
-        addDish(context, "Яйцо", "Egg", "0, 1", "Соусы");
-        addDish(context, "Айран", "Yoghurt drink", "01", "Соусы");
-        addDish(context, "Суп", "Soup", "12", "Первые блюда");
-        addDish(context, "Прочее", "Other", "1", "Неизвестное");
-        addDish(context, "Торт", "Cake", "3", "Десерты");
-        addDish(context, "Без фаз", "None", "", "Салаты").setDietPeriod({});
-        const QString key = localized(QStringLiteral("nameKey"));
-        const QString other = QStringLiteral("Неизвестное");
-        EXPECT_THAT(
-            sections(program.manager().dishesForDietPeriod(1), key),
-            russian ? ElementsAre(QStringList{QStringLiteral("Первые блюда"), QStringLiteral("Суп")},
-                                  QStringList{QStringLiteral("Соусы"), QStringLiteral("Айран"), QStringLiteral("Яйцо")},
-                                  QStringList{other, QStringLiteral("Прочее")})
-                    : ElementsAre(
-                          QStringList{QStringLiteral("Первые блюда"), QStringLiteral("Soup")},
-                          QStringList{QStringLiteral("Соусы"), QStringLiteral("Egg"), QStringLiteral("Yoghurt drink")},
-                          QStringList{other, QStringLiteral("Other")}));
-        EXPECT_TRUE(program.manager().dishesForDietPeriod(7).isEmpty());
-        EXPECT_EQ(program.manager().dishesCategoryForIndex(8)->nameRU(), QStringLiteral("Соусы"));
-        EXPECT_EQ(program.manager().dishesCategoryForIndex(6), nullptr);
-    }
+    StoreFixture program;
+    ManagedObjectContext &context = program.context();
+    addDish(context, "Яйцо", "Egg", "0, 1", "Соусы");
+    addDish(context, "Айран", "Yoghurt drink", "01", "Соусы");
+    addDish(context, "Суп", "Soup", "12", "Первые блюда");
+    addDish(context, "Прочее", "Other", "1", "Неизвестное");
+    addDish(context, "Торт", "Cake", "3", "Десерты");
+    addDish(context, "Без фаз", "None", "", "Салаты").setDietPeriod({});
+    EXPECT_THAT(sections(program.manager().dishesForDietPeriod(1)),
+                ElementsAre(texts({"Первые блюда", "Суп"}), texts({"Соусы", "Айран", "Яйцо"}),
+                            texts({"Неизвестное", "Прочее"})));
+    EXPECT_TRUE(program.manager().dishesForDietPeriod(7).isEmpty());
+    EXPECT_EQ(program.manager().dishesCategoryForIndex(8)->nameRU(), QStringLiteral("Соусы"));
+    EXPECT_EQ(program.manager().dishesCategoryForIndex(6), nullptr);
 }
 
 TEST(CatalogueExport, WritesEveryDishInTheLayoutOfTheCatalogue)

@@ -3,7 +3,6 @@
 #include "model/Dish.h"
 #include "model/Ingredient.h"
 #include "model/PurhaseIngredient.h"
-#include "objectgraph/StatementLog.h"
 
 namespace kesto::test
 {
@@ -135,27 +134,6 @@ TEST(ShoppingListOfTheStore, RemovesTypedProductsAndKeepsThoseOfDishes)
     EXPECT_EQ(list.products(), QStringList({QStringLiteral("egg"), QStringLiteral("yolk")}));
     list.manager().removeAllPurchaseIngredientsFromCard();
     EXPECT_TRUE(list.lines().isEmpty()) << "nothing to remove is no harm";
-}
-
-TEST(ShoppingListOfTheStore, TakesAsManyStatementsForALongListAsForAShort)
-{
-    const auto statements = [](int size) {
-        StatementLog log;
-        ShoppingList list;
-        list.fillShoppingList(size);
-        list.restart();
-        (void)list.context();
-        (void)log.take();
-        EXPECT_EQ(list.lines().size(), size);
-        const qsizetype reading = log.count();
-        EXPECT_GT(reading, 0);
-        list.manager().removeAllPurchaseIngredientsFromCard();
-        const qsizetype looking = log.take().filter(QStringLiteral("SELECT")).size();
-        EXPECT_TRUE(list.lines().isEmpty());
-        EXPECT_TRUE(list.products().isEmpty());
-        return std::pair(reading, looking);
-    };
-    EXPECT_EQ(statements(20), statements(2'000));
 }
 
 } // namespace

@@ -5,6 +5,10 @@
 #include "platform/NotificationCenter.h"
 #include "platform/Platform.h"
 #include "platform/objectgraph/SqlStore.h"
+#include "platform/objectgraph/StoreRefusal.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <sqlite3.h>
 
 #include <QDir>
 #include <QUrl>
@@ -17,6 +21,8 @@ namespace
 using testing::Contains;
 using testing::IsSupersetOf;
 using testing::Not;
+
+MATCHER_P(HasPrefix, prefix, "") { return arg.startsWith(prefix); }
 
 QString line(const char *text, const QString &path = {})
 {
@@ -134,7 +140,7 @@ TEST(Stores, WhatIsTypedDuringAMoveIsInTheResult)
     EXPECT_EQ(program.file(), QStringLiteral("iCloudDiet.sqlite"));
     for (int day = 0; day < 60; ++day)
         EXPECT_EQ(program.weight(program.platform.date(2020, 1, 1).addDays(day)), static_cast<float>(60 + day)) << day;
-    EXPECT_EQ(program.context().fetchOrLog<DietDay>().size(), 3060U);
+    EXPECT_EQ(program.context().fetch<DietDay>()->size(), 3060U);
 }
 
 TEST(Stores, AStaleOrMissingCloudFileNeverReplacesWhatWasTypedLocally)
@@ -172,26 +178,150 @@ TEST(Stores, AMoveThatFailsLeavesTheDataInUseAndIsTriedAgain)
     EXPECT_EQ(program.weight(day), 78.5F);
 }
 
-TEST(Stores, AFileThatCanNotBeOpenedLeavesAContextWithoutAStore)
+/// Leaves one file name of a folder unusable for writing while it exists.
+class Blocked
 {
-    StoreFixture program;
-    QFile garbage(program.path("Diet.sqlite"));
+public:
+    explicit Blocked(const QString &path)
+        : path_(path)
+    {
+        QFile file(path);
+        if (file.open(QIODevice::ReadOnly))
+            content_ = file.readAll();
+        file.remove();
+        QDir().mkpath(path + QStringLiteral("/in the way"));
+    }
+    ~Blocked()
+    {
+        QDir(path_).removeRecursively();
+        QFile file(path_);
+        EXPECT_TRUE(content_.isEmpty() || (file.open(QIODevice::WriteOnly) && file.write(content_) > 0));
+    }
+    Blocked(const Blocked &) = delete;
+    Blocked &operator=(const Blocked &) = delete;
+
+private:
+    QString path_;
+    QByteArray content_;
+};
+
+TEST(Stores, AMoveWhoseMarkerCanNotBeWrittenIsAbandoned)
+{
+    StoreFixture program(withCloud());
+    const QDateTime day = program.platform.date(2024, 3, 1);
+    program.defaults().setBool(false, Keys::kUseICloudKey);
+    program.weigh(day, 79);
+    const auto moveFails = [&](const char *source, const char *target, float weight) {
+        ASSERT_TRUE(program.defaults().synchronize());
+        program.restart();
+        {
+            const Blocked settings(program.platform.defaultsPath());
+            program.settle();
+            ASSERT_EQ(program.file(), QLatin1String(source));
+            EXPECT_FALSE(QFile::exists(program.path(target)));
+            program.weigh(day, weight);
+            program.restart(); // nothing of this run reaches the settings, as after a kill
+        }
+        program.platform.restart();
+        program.settle();
+        EXPECT_EQ(program.file(), QLatin1String(target)) << "the next start tries again";
+        EXPECT_EQ(program.weight(day), weight);
+    };
+    program.defaults().setBool(true, Keys::kUseICloudKey);
+    moveFails("Diet.sqlite", "iCloudDiet.sqlite", 78.5F);
+    program.defaults().setBool(true, Keys::kDisableiCloud);
+    program.defaults().setBool(false, Keys::kUseICloudKey);
+    moveFails("iCloudDiet.sqlite", "Diet.sqlite", 78);
+}
+
+/// Writes a store file that is no database.
+void writeGarbage(const QString &path)
+{
+    QFile garbage(path);
     ASSERT_TRUE(garbage.open(QIODevice::WriteOnly));
     garbage.write("this is no database, but somebody may still want it back");
-    garbage.close();
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+TEST(Stores, ADamagedFileIsReportedAndSetAsideOnlyOnRequest)
+{
+    StoreFixture program;
+    const QString path = program.path("Diet.sqlite");
+    writeGarbage(path);
+    writeGarbage(path + QStringLiteral(".damaged-1")); // an earlier copy
     LogCapture log;
     program.settle();
-    const QString reason = QStringLiteral("error while additing presitance store - ") + program.path("Diet.sqlite") +
-                           QStringLiteral(": file is not a database");
-    EXPECT_THAT(log.lines(), Contains(reason));
-    EXPECT_THAT(log.lines(),
-                Not(Contains(testing::ResultOf(
-                    [](const QString &text) { return text.startsWith(QStringLiteral("added normal")); }, true))));
-    EXPECT_TRUE(program.context().fetchOrLog<DietDay>().empty());
+    ASSERT_TRUE(program.manager().storeProblem().has_value());
+    EXPECT_EQ(program.manager().storeProblem()->kind, StoreProblem::Kind::Damaged);
+    EXPECT_EQ(program.manager().storeProblem()->path, path);
+    EXPECT_THAT(log.lines(), Contains(HasPrefix(QStringLiteral("error while additing presitance store - "))));
+    EXPECT_THAT(log.lines(), Not(Contains(HasPrefix(QStringLiteral("added normal")))));
+    EXPECT_FALSE(program.manager().isStoreOpen());
     program.context().insert<DietDay>().setWeight(70);
     EXPECT_FALSE(program.context().save());
-    ASSERT_TRUE(garbage.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(garbage.readAll().startsWith("this is no database"));
+    const QByteArray content = contentOf(path);
+    EXPECT_TRUE(content.startsWith("this is no database"));
+
+    EXPECT_EQ(pathForStoreCopy(path), path + QStringLiteral(".damaged-2"));
+    writeGarbage(path + QStringLiteral("-wal"));
+    program.defaults().setValue(QStringLiteral("1.0"), Keys::kAppVersionKey);
+    ASSERT_TRUE(program.manager().startWithEmptyStore());
+    program.settle();
+    EXPECT_FALSE(program.manager().storeProblem().has_value());
+    EXPECT_EQ(program.file(), QStringLiteral("Diet.sqlite"));
+    EXPECT_EQ(contentOf(path + QStringLiteral(".damaged-2")), content);
+    EXPECT_EQ(contentOf(path + QStringLiteral(".damaged-2-wal")), content);
+    EXPECT_TRUE(QFile::exists(path + QStringLiteral(".damaged-1")));
+    EXPECT_FALSE(program.defaults().valueForKey(Keys::kAppVersionKey).isValid()) << "the catalogue is imported again";
+    program.weigh(program.platform.date(2024, 3, 1), 80);
+    program.restart();
+    EXPECT_EQ(program.weight(program.platform.date(2024, 3, 1)), 80);
+    EXPECT_EQ(program.context().fetch<DietDay>()->size(), 1U) << "what was inserted without a store is dropped";
+}
+
+TEST(Stores, AKillWhileAFileIsSetAsideKeepsItsLog)
+{
+    StoreFixture program;
+    const QString path = program.path("Diet.sqlite");
+    writeGarbage(path + QStringLiteral(".damaged-3"));
+    writeGarbage(path + QStringLiteral("-wal")); // killed between the two renames
+    program.settle();
+    EXPECT_TRUE(program.manager().isStoreOpen());
+    EXPECT_EQ(contentOf(path + QStringLiteral(".damaged-3-wal")), contentOf(path + QStringLiteral(".damaged-3")));
+}
+
+TEST(Stores, AFileOfANewerVersionStaysAsItIs)
+{
+    StoreFixture program;
+    program.settle();
+    const QString path = program.path("Diet.sqlite");
+    program.restart();
+    {
+        SQLite::Database file(path.toStdString(), SQLite::OPEN_READWRITE);
+        file.exec("PRAGMA user_version = 99");
+    }
+    const QByteArray content = contentOf(path);
+    program.settle();
+    ASSERT_TRUE(program.manager().storeProblem().has_value());
+    EXPECT_EQ(program.manager().storeProblem()->kind, StoreProblem::Kind::Newer);
+    EXPECT_EQ(contentOf(path), content);
+}
+
+TEST(Stores, TellWhatKeepsAFileFromBeingOpened)
+{
+    using Kind = StoreProblem::Kind;
+    for (const auto &[code, kind] :
+         {std::pair(SQLITE_CORRUPT, Kind::Damaged), std::pair(SQLITE_NOTADB, Kind::Damaged),
+          std::pair(static_cast<int>(StoreRefusal::Damaged), Kind::Damaged), std::pair(SQLITE_BUSY, Kind::InUse),
+          std::pair(SQLITE_FULL, Kind::NoSpace), std::pair(SQLITE_READONLY_DIRECTORY, Kind::NoPermission),
+          std::pair(SQLITE_CANTOPEN_ISDIR, Kind::NoPermission), std::pair(SQLITE_IOERR_READ, Kind::Other),
+          std::pair(0, Kind::Other)})
+        EXPECT_EQ(storeProblem(QStringLiteral("/p"), {.code = code}).kind, kind) << code;
 }
 
 TEST(Stores, TheContextIsAnnouncedOnce)

@@ -1,5 +1,7 @@
 #include "platform/objectgraph/SqlStore.h"
 
+#include "platform/objectgraph/StoreRefusal.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -123,13 +125,15 @@ std::optional<Error> SqlStore::prepareFile(const ManagedObjectModel &model)
     const int applicationId = database.execAndGet("PRAGMA application_id");
     const bool empty = database.execAndGet("SELECT count(*) FROM sqlite_schema").getInt() == 0;
     if (!empty && applicationId != kApplicationId)
-        return Error{kCannotOpen, path_, QStringLiteral("it is a database of another program")};
+        return Error{kCannotOpen, path_, QStringLiteral("it is a database of another program"),
+                     static_cast<int>(StoreRefusal::ForeignDatabase)};
     const int version = database.execAndGet("PRAGMA user_version");
     if (version > model.version())
         return Error{kCannotOpen, path_,
                      QStringLiteral("it was written by a newer version of the program (%1, this one knows %2)")
                          .arg(version)
-                         .arg(model.version())};
+                         .arg(model.version()),
+                     static_cast<int>(StoreRefusal::NewerModel)};
     sqlite3_db_config(handle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
     const std::string journal = database.execAndGet("PRAGMA journal_mode=WAL").getString();
     if (journal != "wal")
