@@ -14,7 +14,7 @@ constexpr float usualHeight = 1.7F;
 constexpr float cruiseDaysPerKilogram = 7;
 constexpr float consolidationDaysPerKilogram = 10;
 
-/// Toward zero; what no integer holds becomes the nearest that one does.
+/// Rounds toward zero and clamps to the range of int; 0 for NaN.
 int truncated(float value)
 {
     constexpr float beyond = 2147483648.0F;

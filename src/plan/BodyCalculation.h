@@ -5,7 +5,7 @@
 namespace kesto
 {
 
-/// What is known of a body. 0 means that nothing was entered.
+/// A body's measures. 0 means that nothing was entered.
 struct BodyInputs
 {
     float weight = 0; ///< kilograms
@@ -15,14 +15,14 @@ struct BodyInputs
     float wantedWeight = 0; ///< kilograms
 };
 
-/// What follows for the body and for the lengths of the diet's phases. All arithmetic is single precision.
+/// The results for the body and the lengths of the diet's phases. All arithmetic is single precision.
 struct BodyCalculation
 {
     float bmi = 0;
     QString bodyStatus;     ///< key of its text
     float idealWeidht = 0;  ///< kilograms, whole
-    float wantedWeight = 0; ///< as entered, otherwise the ideal one
-    float difWeight = 0;    ///< to lose; negative for who wants to gain
+    float wantedWeight = 0; ///< as entered, or the ideal weight
+    float difWeight = 0;    ///< kilograms to lose; negative to gain
     int period1 = 0;        ///< days of Attack
     int period2 = 0;        ///< days of Cruise; negative like difWeight
     int period3 = 0;        ///< days of Consolidation; negative like difWeight

@@ -17,8 +17,8 @@ namespace
 constexpr std::array fieldTitles{u"Вес", u"Грудь", u"Талия", u"Бедра"};
 constexpr int weightTag = 0;
 
-/// Six digits below a thousand, all that a person types there, while a weight from pounds has more; above, what it
-/// takes to tell the number from its neighbours. Never with an exponent.
+/// Six significant digits below 1,000, since a weight converted from pounds has more than a person types. From 1,000 on
+/// as many as identify the float. Never with an exponent.
 QString textOf(float value)
 {
     constexpr int fewestDigits = 6;
@@ -121,10 +121,6 @@ void CalFooterView::buttonTouched(int tag)
         return;
     CalKindButton &touched = *kindButtons_[static_cast<size_t>(tag)];
     touched.setSelected(!touched.isSelected());
-    for (const auto &button : kindButtons_) {
-        if (button.get() != &touched)
-            button->setSelected(false);
-    }
     if (delegate_ != nullptr)
         delegate_->dietDayTypeButtonTouched(touched, date_, indexPath_);
 }

@@ -15,7 +15,7 @@ namespace kesto
 
 class DietDay;
 
-/// A button of the calendar's footer that gives the day its kind.
+/// A button in the calendar's footer that sets the kind of the day.
 class CalKindButton : public QObject
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ public:
     {
     }
 
-    /// 0, 1 or 2: the place among the kinds of days.
+    /// The kind, 0 to 2.
     [[nodiscard]] int tag() const { return tag_; }
     [[nodiscard]] QString title() const { return DayKinds::title(tag_); }
     [[nodiscard]] QString image() const { return selected_ ? QStringLiteral("Checked") : QStringLiteral("Unchecked"); }
@@ -48,7 +48,7 @@ private:
     bool visible_ = false;
 };
 
-/// A field of the calendar's footer: the weight or a girth of the day.
+/// A field in the calendar's footer: the weight or a girth of the day.
 class CalFooterField : public QObject
 {
     Q_OBJECT
@@ -60,13 +60,13 @@ class CalFooterField : public QObject
 public:
     CalFooterField(int tag, const char16_t *key);
 
-    /// 0 to 3: the position in CalFooterView::fieldKeys().
+    /// The index in CalFooterView::fieldKeys(), 0 to 3.
     [[nodiscard]] int tag() const { return tag_; }
     [[nodiscard]] QString title() const;
     [[nodiscard]] QString unit() const;
     [[nodiscard]] QString placeholder() const;
     [[nodiscard]] QString text() const { return text_; }
-    /// Told even when it is the same: the view may show what the user typed.
+    /// Signals even the same text, because the view may show a text that the user typed.
     void setText(const QString &text);
 
 Q_SIGNALS:
@@ -78,19 +78,19 @@ private:
     QString text_;
 };
 
-/// Hears what the user does in the footer.
+/// Told what the user does in the footer.
 class CalFooterViewDelegate
 {
 public:
     virtual ~CalFooterViewDelegate() = default;
     virtual void dietDayTypeButtonTouched(const CalKindButton &button, const QDateTime &date,
                                           const IndexPath &indexPath) = 0;
-    /// The user typed into a field and left it; tag tells which.
+    /// The user has left the field with this tag after typing.
     virtual void textFieldDidEndEditing(int tag, const QString &text) = 0;
     virtual void openJornal() = 0;
 };
 
-/// What is below the month: measures and kind of the selected day, and the way to its journal.
+/// The area below the month: measures and kind of the selected day, and a button that opens its journal.
 class CalFooterView : public QObject
 {
     Q_OBJECT
@@ -102,7 +102,7 @@ class CalFooterView : public QObject
 public:
     static constexpr size_t fieldCount = 4;
 
-    /// The attributes of a day behind the fields.
+    /// The names of the fields' DietDay attributes.
     [[nodiscard]] static const std::array<QString, fieldCount> &fieldKeys();
 
     /// The delegate outlives this or is null.
@@ -113,15 +113,15 @@ public:
     [[nodiscard]] int activeButtonsCount() const { return activeButtonsCount_; }
     [[nodiscard]] QDateTime date() const { return date_; }
     [[nodiscard]] IndexPath indexPath() const { return indexPath_; }
-    /// Of the selected cell.
+    /// The index path of the selected cell.
     void setIndexPath(const IndexPath &indexPath) { indexPath_ = indexPath; }
-    /// Deaf while the day is before the start of the diet.
+    /// Disabled while the day is before the start of the diet.
     [[nodiscard]] bool isEnabled() const { return enabled_; }
     [[nodiscard]] QString jornalTitle() const;
 
-    /// Offers the kinds of a phase and shows those of the day, which is null when nothing is recorded.
+    /// Shows the kind buttons of a phase and the kind of the day. The day is null when it has no record.
     void setDietPeriod(int period, const DietDay *forDay, const QDateTime &date);
-    /// Shows the day's measures that are above 0.
+    /// Shows the day's measures; one that is not above 0 stays empty.
     void fillFields(const DietDay *day);
 
     Q_INVOKABLE void buttonTouched(int tag);

@@ -4,13 +4,13 @@
 #include "plan/BodyCalculation.h"
 #include "plan/DayTexts.h"
 #include "plan/PhaseSpans.h"
-#include "plan/TypedNumber.h"
 #include "platform/Clock.h"
 #include "platform/Platform.h"
 #include "platform/StringFormat.h"
 #include "platform/StringTables.h"
 #include "platform/UserDefaults.h"
 #include "store/CoreDataManager.h"
+#include "util/TypedNumber.h"
 
 #include <QLocale>
 
@@ -25,7 +25,7 @@ namespace
 
 UserDefaults &defaults() { return Platform::current().userDefaults(); }
 
-/// What a typed length of a phase means.
+/// The days that a typed length of a phase stands for.
 int typedLength(int period, int days)
 {
     return std::clamp(days, 1, period == 0 ? CalculatorViewController::longestAttack : std::numeric_limits<int>::max());

@@ -11,7 +11,7 @@
 namespace kesto
 {
 
-/// Asks for the body's measures, tells what follows from them, and starts the diet.
+/// The calculator: takes the body's measures, shows the results, and starts the diet.
 class CalculatorViewController : public TableViewControllerWithEcternalPicker
 {
     Q_OBJECT
@@ -22,9 +22,9 @@ public:
     static constexpr int wantedWeightTag = ResultsSection * 100 + WantedWeightRow;
     static constexpr int firstPeriodTag = PhasesSection * 100;
     static constexpr int periodCount = 3;
-    /// The bar of the phases, below their fields.
+    /// The row of the bar that shows the phases, below their fields.
     static constexpr int phaseBarRow = periodCount;
-    /// A typed Attack is no longer than a century: every day of it becomes a record.
+    /// The limit of a typed Attack, in days. Every day of it becomes a record.
     static constexpr int longestAttack = 36500;
 
     explicit CalculatorViewController(QObject *parent = nullptr);
@@ -32,22 +32,22 @@ public:
     void setUpData();
     /// The labels of the first three sections; those of the first are also the keys under which the inputs are stored.
     [[nodiscard]] static const QList<QStringList> &keys();
-    /// Of an input row, while nothing is stored; invalid for others.
+    /// The value of an input row while nothing is stored; invalid for other rows.
     [[nodiscard]] static QVariant defaultValueForIndex(int index);
     [[nodiscard]] static QStringList handTypes() { return CalculatorWheels::handTypes(); }
-    /// The word after an age. In Russian it goes by the last digit alone.
+    /// The word after an age. In Russian it depends on the last digit only.
     [[nodiscard]] static QString agePrefixForValue(const QVariant &value);
 
-    /// Computes every result anew. A hand-edited length of a phase ends here, a wanted weight does not.
+    /// Computes every result again. Replaces typed lengths of phases; keeps a typed wanted weight.
     void calculateDiet();
-    /// Stores what the wheels of the open input stand for; the wanted weight becomes the ideal one.
+    /// Stores the value of the open input's wheels and resets the wanted weight to the ideal one.
     void pickerView(int didSelectRow, int inComponent);
-    /// A hand-edited wanted weight, always in kilograms, or length of a phase.
+    /// Takes a typed wanted weight, always in kilograms, or a typed length of a phase.
     void textFieldDidEndEditing(int tag, const QString &text);
 
-    /// Asks for the first day.
+    /// Asks for the first day of the diet.
     void startDietIntro();
-    /// Asks whether the earlier days may go.
+    /// Asks whether the earlier days may be deleted.
     void showAlert();
     void alertView(int clickedButtonAtIndex);
     /// Deletes the diet days before the moment, stores the plan from the beginning of its day, and opens the calendar.
@@ -68,20 +68,20 @@ public:
     [[nodiscard]] bool metrickSystem() const { return metrickSystem_; }
     [[nodiscard]] QString kgString() const { return kgString_; }
     [[nodiscard]] QString cmString() const { return cmString_; }
-    /// Held while the user is asked about the earlier days.
+    /// The picked date while the user is asked about the earlier days.
     [[nodiscard]] const std::optional<QDateTime> &startDiedDate() const { return startDiedDate_; }
 
     [[nodiscard]] int numberOfSections() const override { return StartSection + 1; }
     [[nodiscard]] int numberOfRowsInSection(int section) const override;
     [[nodiscard]] TableRow cellForRow(const IndexPath &path) const override;
-    /// Without a word, but a gap.
+    /// Empty, which leaves a gap above the section.
     [[nodiscard]] QString titleForHeaderInSection(int section) const override;
 
 protected:
     void viewDidLoad() override;
     void viewWillAppear() override;
     void didSelectRow(const IndexPath &path) override;
-    /// The bar follows a length that is being typed.
+    /// Updates the bar while a length is typed.
     void textFieldTextDidChange(const IndexPath &path, int tag, const QString &text) override;
     void textFieldDidEndEditing(const IndexPath &path, int tag, const QString &text) override;
     [[nodiscard]] int numberOfComponentsInPicker() const override { return wheels().numberOfComponents(); }
@@ -91,7 +91,7 @@ protected:
     void pickerDidSelectRow(int row, int component) override { pickerView(row, component); }
 
 private:
-    /// Of the input whose wheels are open.
+    /// The wheels of the open input.
     [[nodiscard]] CalculatorWheels wheels() const;
     [[nodiscard]] static QVariant storedValue(int index);
     [[nodiscard]] TableRow inputRow(int row) const;

@@ -2,7 +2,6 @@
 
 #include "components/AlertCenter.h"
 #include "components/Shell.h"
-#include "model/DietDay.h"
 #include "plan/PlanContext.h"
 #include "platform/CloudKeyValueStore.h"
 #include "platform/Log.h"
@@ -13,7 +12,6 @@
 #include "store/Keys.h"
 #include "util/MNAdditions.h"
 
-#include <QSet>
 #include <QTimer>
 
 #include <chrono>
@@ -28,19 +26,11 @@ namespace
 using namespace std::chrono_literals;
 
 constexpr auto confirmationDelay = 300ms;
-constexpr qint64 secondsPerDay = 86400;
 constexpr int cancelButtonIndex = 0;
 
 QList<Alert::Button> startButtons()
 {
     return {{localized(QStringLiteral("Отменить")), Alert::Role::Cancel}, {localized(QStringLiteral("Начать"))}};
-}
-
-Result<std::vector<DietDay *>> daysBefore(const QDateTime &date, ManagedObjectContext &context)
-{
-    FetchRequest earlier;
-    earlier.predicate = attribute("date") < date;
-    return context.fetch<DietDay>(earlier);
 }
 
 } // namespace
@@ -59,8 +49,8 @@ void CalculatorViewController::startDietIntro()
 
 void CalculatorViewController::dialogAnswered(const QDateTime &date)
 {
-    const auto earlier = daysBefore(date, planContext());
-    if (earlier && earlier->empty()) { // when they can't be read, there may be some to lose
+    const auto earlier = CoreDataManager::sharedManager().dietDaysBefore(date);
+    if (earlier && earlier->empty()) { // ask, too, when they could not be read
         startDietOn(date);
         return;
     }
@@ -92,14 +82,8 @@ void CalculatorViewController::startDietOn(const QDateTime &date)
     log(QStringLiteral("start starting diet"));
     closePicker();
     CoreDataManager &manager = CoreDataManager::sharedManager();
-    ManagedObjectContext &context = planContext();
     const QDateTime start = mn_beginningOfDay(date);
-    if (const auto earlier = daysBefore(date, context); !earlier)
-        log("startDietOn: error - %@", earlier.error().message());
-    else {
-        for (DietDay *day : *earlier)
-            context.deleteObject(*day);
-    }
+    manager.deleteDietDaysBefore(date);
     savePlan();
 
     manager.setStartDietDay(start);
@@ -123,32 +107,7 @@ void CalculatorViewController::startDietOn(const QDateTime &date)
 
 void CalculatorViewController::makeAttackPeriodForDate(const QDateTime &date, int periodDays)
 {
-    if (periodDays < 1)
-        return;
-    ManagedObjectContext &context = planContext();
-    // As dietDatWithDate() of each date, but a long Attack takes one fetch and one save.
-    FetchRequest request;
-    request.predicate =
-        attribute("date") >= date && attribute("date") <= date.addSecs((periodDays - 1) * secondsPerDay);
-    const auto found = context.fetch<DietDay>(request);
-    if (!found) { // a second record of a day would hide the first one
-        log("makeAttackPeriodForDate: error - %@", found.error().message());
-        return;
-    }
-    QHash<QDateTime, DietDay *> known;
-    for (DietDay *day : *found) {
-        if (day->date() && !known.contains(*day->date()))
-            known.insert(*day->date(), day);
-    }
-    for (int i = 0; i < periodDays; ++i) {
-        const QDateTime step = date.addSecs(i * secondsPerDay);
-        DietDay *day = known.value(step);
-        if (day == nullptr) {
-            day = &context.insert<DietDay>();
-            day->setDate(step);
-        }
-        day->setChB(true);
-    }
+    CoreDataManager::sharedManager().markAttackDays(date, periodDays);
     savePlan();
 }
 

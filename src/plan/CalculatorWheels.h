@@ -14,7 +14,7 @@ inline constexpr double centimetresPerInch = 2.54;
 /// The rows of the calculator's inputs.
 enum class CalculatorInput { Age, Sex, Weight, Height, Wrist };
 
-/// What the wheels of an input show and stand for. Stored values are years, kilograms and centimetres.
+/// The rows of an input's wheels and their values. Stored values are years, kilograms and centimetres.
 class CalculatorWheels
 {
 public:
@@ -27,9 +27,9 @@ public:
     [[nodiscard]] int numberOfComponents() const { return input_ == CalculatorInput::Weight ? 2 : 1; }
     [[nodiscard]] int numberOfRows(int component) const;
     [[nodiscard]] QString title(int row, int component) const;
-    /// What is stored when the wheels stand so. Of sex and wrist the row.
+    /// The value to store for these rows of the wheels. For sex and wrist it is the row itself.
     [[nodiscard]] float value(const QList<int> &rows) const;
-    /// Where a wheel stands for a stored value: the nearest row.
+    /// The row of a wheel that is nearest to a stored value.
     [[nodiscard]] int row(float value, int component) const;
 
     /// The localised labels of the wrist's classes, and of the sexes.

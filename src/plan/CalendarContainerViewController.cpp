@@ -18,7 +18,7 @@ CalendarContainerViewController::CalendarContainerViewController(std::unique_ptr
     auto *screen = qobject_cast<DietDayDetailViewController *>(day_);
     if (screen == nullptr)
         return;
-    // The bar above both is this one's.
+    // The navigation bar shows the buttons of this container only.
     setRightBarButtonItem(screen->editDishesButtonItem());
     connect(screen, &DietDayDetailViewController::weightChanged, calendar_,
             [month = calendar_] { month->dietDayDetailViewControllerDidUpdateDay(); });

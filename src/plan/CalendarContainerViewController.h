@@ -5,7 +5,7 @@
 namespace kesto
 {
 
-/// A tablet's calendar: the month beside the screen of the selected day.
+/// The calendar on a tablet: the month beside the screen of the selected day.
 class CalendarContainerViewController : public ViewController
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
                                     std::unique_ptr<ViewController> day);
 
     [[nodiscard]] ViewController *calendar() const { return calendar_; }
-    /// Null without one.
+    /// Null without a day screen.
     [[nodiscard]] ViewController *day() const { return day_; }
 
 protected:

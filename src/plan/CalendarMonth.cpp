@@ -24,7 +24,7 @@ int weekdayOfCell(const QDate &day, Qt::DayOfWeek firstWeekday)
     return (fromSunday(day.dayOfWeek()) + fromSunday(firstWeekday) - 1) % CalendarMonth::daysPerWeek;
 }
 
-/// At most one kind is set; should there be more, the first counts.
+/// The label of the day's kind; of the first one if a record has several.
 QString kindOf(const DietDay &day)
 {
     if (day.chB().value_or(false))
@@ -81,7 +81,7 @@ QList<CalendarCell> CalendarMonth::makeCells() const
                         attribute("date") < calendar.startOfDay(first.addDays(shown));
     QHash<QDateTime, const DietDay *> records;
     for (const DietDay *day : CoreDataManager::sharedManager().managedObjectContext()->fetchOrLog<DietDay>(request)) {
-        if (day->date() && !records.contains(*day->date())) // of two, the one that DietDay::dayWithoutCreation() finds
+        if (day->date() && !records.contains(*day->date())) // the record that dayWithoutCreation() finds
             records.insert(*day->date(), day);
     }
 
@@ -103,7 +103,7 @@ QList<CalendarCell> CalendarMonth::makeCells() const
     return cells;
 }
 
-// Rows stay where they are, so that a view keeps its items.
+// Changes the rows in place, so that a view keeps its items.
 void CalendarMonth::replaceCells(const QList<CalendarCell> &cells)
 {
     const auto before = cells_.size();

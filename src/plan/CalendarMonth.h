@@ -17,7 +17,7 @@ class DietDay;
 struct CalendarCell
 {
     QDate day;
-    QDateTime date; ///< the beginning of the day
+    QDateTime date; ///< when the day begins
     int dietPeriod = -1;
     int weekday = 0; ///< (calendar weekday + first weekday − 1) mod 7, both counted from Sunday as 1
     QString kind;    ///< short label of the day's kind; null for none
@@ -29,8 +29,7 @@ struct CalendarCell
     bool operator==(const CalendarCell &) const = default;
 };
 
-/// The whole weeks that a month touches, from the user's first weekday on, as a list of days. The records of all days
-/// come with one fetch.
+/// The days of all weeks of a month, from the user's first weekday on. One fetch reads the records of all days.
 class CalendarMonth : public QAbstractListModel
 {
     Q_OBJECT
@@ -56,17 +55,17 @@ public:
 
     using QAbstractListModel::QAbstractListModel;
 
-    /// Any day of the month to show.
+    /// Shows the month of a day.
     void showMonth(const QDate &month);
     /// The first day of the shown month.
     [[nodiscard]] QDate month() const { return month_; }
-    /// Reads the shown days anew.
+    /// Reads the shown days again.
     void refresh();
-    /// Reads one day anew; nothing happens when it is not shown.
+    /// Reads one day again if it is shown.
     void refreshDate(const QDateTime &date);
 
     [[nodiscard]] QDateTime selectedDate() const { return selectedDate_; }
-    /// The beginning of a day, which need not be shown.
+    /// Selects the day that begins at a date. It need not be shown.
     void setSelectedDate(const QDateTime &date);
 
     /// Month and year.
@@ -75,18 +74,18 @@ public:
     [[nodiscard]] QString nextTitle() const { return titleOf(month_.addMonths(1)); }
     [[nodiscard]] int weeks() const { return static_cast<int>(cells_.size()) / daysPerWeek; }
     [[nodiscard]] QStringList weekdayTitles() const;
-    /// −1 when the selected day is not shown.
+    /// The position of the selected day; −1 when it is not shown.
     [[nodiscard]] int selectedIndex() const { return indexOf(selectedDate_); }
     [[nodiscard]] const QList<CalendarCell> &cells() const { return cells_; }
     [[nodiscard]] int indexOf(const QDateTime &date) const;
-    /// The position of the day some days on from that of another position; turns to its month when it is not shown.
+    /// The position of the day that is some days after another position. Shows its month if necessary.
     Q_INVOKABLE int walk(int from, int days);
-    /// −1 when today is not shown.
+    /// The position of today; −1 when it is not shown.
     [[nodiscard]] Q_INVOKABLE int indexOfToday() const;
     /// Week and column of a cell.
     [[nodiscard]] static IndexPath indexPathOf(int index) { return {index / daysPerWeek, index % daysPerWeek}; }
 
-    /// Whether a day, given by its beginning, lies on or after the start of the diet.
+    /// Whether the day that begins at a date is on or after the start of the diet.
     [[nodiscard]] static bool isFromStartOn(const QDateTime &date);
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;

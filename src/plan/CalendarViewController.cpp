@@ -6,11 +6,11 @@
 #include "plan/DayDishes.h"
 #include "plan/DayTexts.h"
 #include "plan/PlanContext.h"
-#include "plan/TypedNumber.h"
 #include "platform/Clock.h"
 #include "platform/Platform.h"
 #include "store/CoreDataManager.h"
 #include "util/MNAdditions.h"
+#include "util/TypedNumber.h"
 
 #include <algorithm>
 #include <utility>
@@ -21,7 +21,7 @@ namespace kesto
 namespace
 {
 
-constexpr int beforeStart = -1; // the phase of a day that has none
+constexpr int beforeStart = -1; // the phase of the days before the diet
 
 QDateTime today() { return mn_beginningOfDay(Platform::current().clock().now()); }
 
@@ -50,7 +50,7 @@ void CalendarViewController::viewDidLoad()
     updateUIForDate(currentDate_, periodOf(currentDate_));
 }
 
-// The journal and the screen of a day may have changed what is shown, and midnight may have passed.
+// The journal or the day screen may have changed the records, and the date may have changed.
 void CalendarViewController::viewWillAppear() { showStored(); }
 
 void CalendarViewController::showStored()
@@ -66,7 +66,7 @@ bool CalendarViewController::calendarView(const QDateTime &shouldSelectDate) con
 
 void CalendarViewController::calendarView(const CalendarCell &didSelectCell, const IndexPath &atIndexPath)
 {
-    Q_EMIT editingShouldEnd(); // what is being typed belongs to the day before
+    Q_EMIT editingShouldEnd(); // a text being typed belongs to the day selected before
     currentDate_ = didSelectCell.date;
     month_.setSelectedDate(currentDate_);
     footer_.setIndexPath(atIndexPath);
@@ -85,7 +85,7 @@ void CalendarViewController::touchCell(int index)
 void CalendarViewController::updateUIForDate(const QDateTime &date, int dietPeriod)
 {
     currentDate_ = date;
-    // Phases of a negative length leave the days before the start in the last one.
+    // With a phase of negative length dietPeriodForCalendar() may put days before the start into Stabilization.
     dietPeriod_ = CalendarMonth::isFromStartOn(date) ? dietPeriod : beforeStart;
     if (dayScreen_ != nullptr) {
         if (!isDayDisabled())
@@ -136,11 +136,14 @@ void CalendarViewController::showToday()
     month_.showMonth(Platform::current().calendar().dayOf(today()));
 }
 
-void CalendarViewController::removeIfEmpty(DietDay &day)
+void CalendarViewController::saveOrRemove(DietDay &day)
 {
     if (day.isEmpty())
         planContext().deleteObject(day);
     savePlan();
+    dietDayDetailViewControllerDidUpdateDay();
+    if (dayScreen_ != nullptr)
+        dayScreen_->reloadDay();
 }
 
 void CalendarViewController::dietDayTypeButtonTouched(const CalKindButton &button, const QDateTime &date,
@@ -152,12 +155,9 @@ void CalendarViewController::dietDayTypeButtonTouched(const CalKindButton &butto
     DietDay &day = **found;
     for (const QString &key : DayKinds::keys())
         day.setValueForKey(QVariant(), key);
-    if (button.isSelected()) // otherwise the day stays without: a stored NO would keep it from being empty
+    if (button.isSelected()) // store no false: the day would not count as empty
         day.setValueForKey(true, DayKinds::keys()[static_cast<size_t>(button.tag())]);
-    removeIfEmpty(day);
-    dietDayDetailViewControllerDidUpdateDay();
-    if (dayScreen_ != nullptr)
-        dayScreen_->setDate(currentDate_, dietPeriod_);
+    saveOrRemove(day);
 }
 
 void CalendarViewController::textFieldDidEndEditing(int tag, const QString &text)
@@ -169,10 +169,7 @@ void CalendarViewController::textFieldDidEndEditing(int tag, const QString &text
         return;
     DietDay &day = **found;
     day.setValueForKey(value > 0 ? QVariant(value) : QVariant(), key);
-    removeIfEmpty(day);
-    dietDayDetailViewControllerDidUpdateDay();
-    if (dayScreen_ != nullptr)
-        dayScreen_->setDate(currentDate_, dietPeriod_);
+    saveOrRemove(day);
 }
 
 void CalendarViewController::dietDayDetailViewControllerDidUpdateDay()

@@ -14,19 +14,19 @@ namespace kesto
 
 class DietDay;
 
-/// The screens that the calendar leads to. Without one nothing opens.
+/// Makes the screens that the calendar opens. An empty function opens nothing.
 struct CalendarScreens
 {
     /// The journal of a day.
     std::function<std::unique_ptr<ViewController>(const QDateTime &date)> jornal;
-    /// The screen of a day of a phase, for a phone; the delegate outlives it.
+    /// The screen of a day, for a phone; the delegate outlives it.
     std::function<std::unique_ptr<ViewController>(const QDateTime &date, int period,
                                                   DietDayDetailViewControllerDelegate *delegate)>
         day;
 };
 
-/// The diet by months. Below the month the selected day: its phase, its planned dishes and the footer with its measures
-/// and its kind. On a tablet the screen of the day, beside the month, takes the place of the list.
+/// The calendar: a month and, below it, the selected day with its phase, its planned dishes and the footer for its
+/// measures and kind. On a tablet the day screen beside the month replaces the list of dishes.
 class CalendarViewController : public ViewController,
                                public CalFooterViewDelegate,
                                public DietDayDetailViewControllerDelegate
@@ -44,21 +44,21 @@ class CalendarViewController : public ViewController,
 public:
     explicit CalendarViewController(CalendarScreens screens = {});
 
-    /// Beside this on a tablet; outlives it. To be set before the view loads.
+    /// The day screen beside this one on a tablet. It outlives this. Set it before the view loads.
     void setDayScreen(DietDayScreen *screen) { dayScreen_ = screen; }
     [[nodiscard]] bool hasDayScreen() const { return dayScreen_ != nullptr; }
 
     [[nodiscard]] CalendarMonth *month() { return &month_; }
     [[nodiscard]] CalFooterView *footer() { return &footer_; }
     [[nodiscard]] QDateTime currentDate() const { return currentDate_; }
-    /// Before the start of the diet.
+    /// Whether the selected day is before the start of the diet.
     [[nodiscard]] bool isDayDisabled() const { return dietPeriod_ < 0; }
     [[nodiscard]] QString periodName() const;
     /// Invalid for a disabled day.
     [[nodiscard]] QColor periodColor() const;
     [[nodiscard]] QString dateText() const;
     [[nodiscard]] QString currentWeight() const { return currentWeight_; }
-    /// The names of the planned dishes in their order.
+    /// The names of the planned dishes in display order.
     [[nodiscard]] const QStringList &dishes() const { return dishes_; }
 
     [[nodiscard]] bool calendarView(const QDateTime &shouldSelectDate) const;
@@ -66,10 +66,10 @@ public:
     void updateUIForDate(const QDateTime &date, int dietPeriod);
     Q_INVOKABLE void nextMonth();
     Q_INVOKABLE void previousMonth();
-    /// Opens the screen of the current day, unless it is in sight already.
+    /// Opens the screen of the current day unless it is shown beside this one.
     Q_INVOKABLE void openDaySettings();
 
-    /// The user touched the cell at a position of the month.
+    /// Selects the cell at a position of the month, if it may be selected.
     Q_INVOKABLE void touchCell(int index);
     /// Shows today's month.
     Q_INVOKABLE void showToday();
@@ -82,7 +82,7 @@ public:
 
 Q_SIGNALS:
     void dayChanged();
-    /// The keyboard shall go.
+    /// Asks the view to end the editing of a field.
     void editingShouldEnd();
 
 protected:
@@ -93,7 +93,8 @@ private:
     void showStored();
     void moveMonth(int count);
     void readDay();
-    void removeIfEmpty(DietDay &day);
+    /// Ends an edit: an empty day is deleted.
+    void saveOrRemove(DietDay &day);
     void push(std::unique_ptr<ViewController> screen);
 
     CalendarScreens screens_;

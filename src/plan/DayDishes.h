@@ -10,11 +10,11 @@ namespace kesto
 class DietDay;
 class DishInDietDay;
 
-/// The dishes planned for a day in their order.
+/// The dishes planned for a day in display order.
 [[nodiscard]] std::vector<DishInDietDay *> dishesOfDay(const DietDay &day);
-/// In the language of the interface, or else in any that the dish has a name in.
+/// The dish's name in the language of the interface, else in the other language, else "-".
 [[nodiscard]] QString nameOfPlanned(const DishInDietDay &planned);
-/// Makes the places of a day's dishes 0, 1, 2, … as they are given.
+/// Numbers the display orders 0, 1, 2, … in the given order.
 void renumber(const std::vector<DishInDietDay *> &dishes);
 
 } // namespace kesto

@@ -4,17 +4,17 @@
 
 #include <array>
 
-/// The kinds that a day of the diet may have, of which at most one is set; told by their place among them.
+/// The kinds of a diet day, as indices 0 to 2. A day has at most one kind.
 namespace kesto::DayKinds
 {
 
 inline constexpr int count = 3;
 
-/// Their attributes of a day.
+/// The names of the DietDay attributes, by kind.
 [[nodiscard]] const std::array<QString, count> &keys();
 [[nodiscard]] QString title(int kind);
 [[nodiscard]] QString image(int kind);
-/// How many of them, from the first on, a day of a phase may have.
+/// The number of kinds, from the first on, that a phase offers.
 [[nodiscard]] int offeredIn(int period);
 
 } // namespace kesto::DayKinds

@@ -44,7 +44,7 @@ QString text(const std::array<const char16_t *, N> &texts, int index)
 DietDayDetailViewController::DietDayDetailViewController(DietDayDetailViewControllerDelegate *delegate)
     : delegate_(delegate)
 {
-    // A dish that was deleted in the popover is planned no more.
+    // The user may have deleted planned dishes in the popover.
     connect(this, &ViewController::popoverChanged, this, [this] {
         if (popover() == nullptr)
             refresh();
@@ -64,7 +64,7 @@ void DietDayDetailViewController::viewDidLoad()
         setRightBarButtonItem(editDishesButtonItem());
 }
 
-// The day, its dishes and the units may have changed while another screen was in sight.
+// Another screen may have changed the day, its dishes or the units.
 void DietDayDetailViewController::viewWillAppear() { refresh(); }
 
 void DietDayDetailViewController::viewWillDisappear()
@@ -77,17 +77,25 @@ void DietDayDetailViewController::viewWillDisappear()
 void DietDayDetailViewController::setDate(const QDateTime &date, int period)
 {
     if (date != date_ || period != dietPeriod_)
-        closePicker(); // what it turns to yet is the weight of the day before
+        closePicker(); // wheels that are still turning set the weight of the day they were opened for
     if (date != date_) {
         setEditing(false);
         if (day_ != nullptr)
-            savePlan(); // this one is left
+            savePlan(); // the user leaves this day
     }
     date_ = date;
     dietPeriod_ = period;
     day_ = nullptr;
     if (!disbledDay_)
         refresh();
+}
+
+void DietDayDetailViewController::reloadDay()
+{
+    if (disbledDay_ || !date_.isValid())
+        return;
+    day_ = DietDay::dayWithoutCreation(date_, planContext());
+    showDay();
 }
 
 void DietDayDetailViewController::setDisbledDay(bool disabled)
@@ -110,6 +118,12 @@ DietDay *DietDayDetailViewController::day()
 
 void DietDayDetailViewController::refresh()
 {
+    (void)day(); // loading a day creates its record
+    showDay();
+}
+
+void DietDayDetailViewController::showDay()
+{
     const CoreDataManager &manager = CoreDataManager::sharedManager();
     kgString_ = manager.kgString();
     metrickSystem_ = manager.isMetrickSystem();
@@ -121,8 +135,8 @@ void DietDayDetailViewController::refresh()
 void DietDayDetailViewController::createContent()
 {
     content_.clear();
-    if (const DietDay *shown = day())
-        content_ = dishesOfDay(*shown);
+    if (day_ != nullptr && !day_->isDeleted())
+        content_ = dishesOfDay(*day_);
     if (content_.empty())
         setEditing(false);
     Q_EMIT contentChanged();
@@ -135,7 +149,7 @@ int DietDayDetailViewController::kindCount() const
 
 int DietDayDetailViewController::numberOfSections() const
 {
-    if (disbledDay_ || day_ == nullptr)
+    if (disbledDay_ || !date_.isValid())
         return 0;
     return isEditing() ? AddSection : AddSection + 1;
 }
@@ -175,10 +189,11 @@ TableRow DietDayDetailViewController::dayRow(int row) const
     if (row == weightRow)
         return {.kind = TableRow::Kind::Value,
                 .title = localized(QStringLiteral("Вес")),
-                .detail = weightText(day_->weight(), metrickSystem_, kgString_),
+                .detail = weightText(day_ != nullptr ? day_->weight() : std::nullopt, metrickSystem_, kgString_),
                 .image = QStringLiteral("weight.png")};
     const int kind = row - 1;
-    const bool selected = day_->valueForKey(DayKinds::keys().at(static_cast<size_t>(kind))).toBool();
+    const QString &key = DayKinds::keys().at(static_cast<size_t>(kind));
+    const bool selected = day_ != nullptr && day_->valueForKey(key).toBool();
     return {.title = DayKinds::title(kind),
             .image = DayKinds::image(kind),
             .accessory = selected ? TableRow::Accessory::Checkmark : TableRow::Accessory::None,
@@ -254,10 +269,10 @@ void DietDayDetailViewController::didSelectRow(const IndexPath &path)
     }
 }
 
-// A day without a weight starts from the last one before it, and that from the calculator's.
+// Without a weight the wheels start at the last earlier weight, else at the calculator's.
 float DietDayDetailViewController::shownOnWheels() const
 {
-    if (day_->weight())
+    if (day_ != nullptr && day_->weight())
         return *day_->weight();
     FetchRequest request;
     request.predicate = attribute("date") < date_ && attribute("weight") > 0.0;
@@ -274,7 +289,7 @@ float DietDayDetailViewController::shownOnWheels() const
 
 int DietDayDetailViewController::selectedRowInComponent(int component) const
 {
-    return day_ != nullptr ? wheels().row(shownOnWheels(), component) : 0;
+    return wheels().row(shownOnWheels(), component);
 }
 
 void DietDayDetailViewController::pickerDidSelectRow(int, int)
@@ -310,7 +325,7 @@ void DietDayDetailViewController::commitDelete(const IndexPath &path)
     planContext().deleteObject(planned);
     if (dish != nullptr && dish->dishCategory() == nullptr)
         CoreDataManager::sharedManager().deleteDish(*dish);
-    createContent(); // a quick dish takes every other entry of it along
+    createContent(); // deleting a quick dish deletes all its entries
     renumber(content_);
     savePlan();
     reloadSection(DishesSection);

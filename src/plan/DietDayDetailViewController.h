@@ -18,57 +18,58 @@ class Dish;
 class DishInDietDay;
 class ManagedObjectContext;
 
-/// One day of the diet: its weight, its kind, and the dishes planned for it. It makes the day's record when it loads
-/// it.
+/// One day of the diet: its weight, its kind, and its planned dishes. Loading a day creates its record.
 class DietDayDetailViewController : public TableViewControllerWithEcternalPicker,
                                     public DietDayScreen,
                                     public AddDishDelegate
 {
     Q_OBJECT
 public:
-    /// The last one is not there while the table is edited.
+    /// AddSection is hidden while the table is being edited.
     enum Section { DaySection, DishesSection, AddSection };
     enum AddRow { AddDishRow, AddFavoriteRow, AddQuickDishRow, AutoFillRow };
-    /// In the day's section; the rows of the kinds follow it.
+    /// In DaySection; the rows of the kinds follow.
     static constexpr int weightRow = 0;
-    /// A day of so many dishes is full enough not to be filled automatically.
+    /// A day with this many dishes is not filled automatically.
     static constexpr int filledDay = 4;
 
-    /// Without a day until setDate(). The delegate outlives this or is null.
+    /// Shows no day until setDate(). The delegate outlives this or is null.
     explicit DietDayDetailViewController(DietDayDetailViewControllerDelegate *delegate = nullptr);
-    /// The day of a date, given by its beginning, and its phase.
+    /// Shows the day that begins at a date, in its phase.
     DietDayDetailViewController(const QDateTime &date, int dietPeriod, DietDayDetailViewControllerDelegate *delegate);
 
     void setDate(const QDateTime &date, int period) override;
+    void reloadDay() override;
     void setDisbledDay(bool disabled) override;
     [[nodiscard]] bool disbledDay() const { return disbledDay_; }
     [[nodiscard]] QDateTime date() const { return date_; }
     [[nodiscard]] int dietPeriod() const { return dietPeriod_; }
-    /// The record of the day, made anew when somebody deleted it; null without a date.
+    /// The record of the day, created again if it was deleted. Null without a date, for a disabled day, and when the
+    /// store cannot be read.
     [[nodiscard]] DietDay *day();
-    /// The planned dishes in their order.
+    /// The planned dishes in display order.
     [[nodiscard]] const std::vector<DishInDietDay *> &content() const { return content_; }
     void createContent();
 
     void addDish(Dish &dish) override;
     void addDishToDietDay(Dish &dish, ManagedObjectContext &toManagedObjectContext);
-    /// Plans the dishes that the store manager proposes, unless the day is full enough. What it adds is saved with the
-    /// next change that is, at the latest when this day is left.
+    /// Plans the dishes that the store manager proposes, unless the day has enough. They are saved with the next
+    /// change, at the latest when the user leaves the day.
     void autoFillDay();
 
     [[nodiscard]] int numberOfSections() const override;
     [[nodiscard]] int numberOfRowsInSection(int section) const override;
     [[nodiscard]] TableRow cellForRow(const IndexPath &path) const override;
-    /// The day's title where no bar shows it.
+    /// The day's title when no navigation bar shows it.
     [[nodiscard]] QString titleForHeaderInSection(int section) const override;
     void setEditing(bool editing) override;
-    /// A button that turns editing on and off; hidden as long as nothing can be edited.
+    /// A button that turns editing on and off; hidden while there is nothing to edit.
     [[nodiscard]] std::unique_ptr<BarButtonItem> editDishesButtonItem();
 
 Q_SIGNALS:
-    /// The day was given another weight here.
+    /// The user picked another weight.
     void weightChanged();
-    /// Other dishes, another day, or a day that is disabled.
+    /// The dishes, the day or its disabled state changed.
     void contentChanged();
 
 protected:
@@ -92,6 +93,7 @@ private:
     [[nodiscard]] TableRow dishRow(const DishInDietDay &planned) const;
     [[nodiscard]] TableRow addRow(int row) const;
     void refresh();
+    void showDay();
     void toggleKind(int kind);
     DishInDietDay *plan(Dish &dish);
     void openCatalogue();

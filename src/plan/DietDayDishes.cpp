@@ -1,4 +1,4 @@
-// How dishes come onto the screen of a day.
+// Adding dishes to the day screen.
 
 #include "components/AlertCenter.h"
 #include "components/NavigationController.h"
@@ -26,7 +26,7 @@ namespace kesto
 namespace
 {
 
-/// Of the bubble with the dishes to choose from. It fits above or below any row, so that the day stays in sight.
+/// The size of the popover with the dishes to choose from. It fits above or below any row, so the day stays visible.
 QSizeF choiceSize()
 {
     constexpr qreal width = 400;
@@ -56,8 +56,8 @@ void DietDayDetailViewController::addDish(Dish &dish)
 
 void DietDayDetailViewController::addDishToDietDay(Dish &dish, ManagedObjectContext &toManagedObjectContext)
 {
-    createContent();    // the list that the dish was chosen in may have deleted others
-    renumber(content_); // and left gaps
+    createContent();    // the user may have deleted dishes in the list
+    renumber(content_); // which leaves gaps in the order
     plan(dish);
     toManagedObjectContext.saveOrKeepChanges();
     createContent();
@@ -69,7 +69,7 @@ void DietDayDetailViewController::autoFillDay()
     log(QStringLiteral("start autofilin"));
     if (day() == nullptr || content_.size() >= filledDay)
         return;
-    renumber(content_); // a dish that was deleted elsewhere left a gap
+    renumber(content_); // a dish deleted elsewhere leaves a gap
     for (Dish *dish : CoreDataManager::sharedManager().autoFilledDishesForPeriod(dietPeriod_)) {
         content_.push_back(plan(*dish));
         insertRow({DishesSection, static_cast<int>(content_.size()) - 1});

@@ -5,7 +5,7 @@
 namespace kesto
 {
 
-/// Hears that the screen of a day changed the day's kind.
+/// Told when the screen of a day has changed the day's kind.
 class DietDayDetailViewControllerDelegate
 {
 public:
@@ -13,14 +13,16 @@ public:
     virtual void dietDayDetailViewControllerDidUpdateDay() = 0;
 };
 
-/// The screen of a day, as the calendar beside it knows it.
+/// What the calendar needs of the day screen beside it.
 class DietDayScreen
 {
 public:
     virtual ~DietDayScreen() = default;
-    /// Loads another day, given by its beginning, of a phase; a disabled screen does so when it is so no more.
+    /// Loads the day that begins at a date and creates its record. A disabled screen loads it when it is enabled.
     virtual void setDate(const QDateTime &date, int period) = 0;
-    /// Whether the day lies before the start of the diet: nothing of it is shown then.
+    /// Shows the loaded day again after a change elsewhere. A record that the change deleted is not created anew.
+    virtual void reloadDay() = 0;
+    /// A disabled screen shows nothing: the day is before the start of the diet.
     virtual void setDisbledDay(bool disabled) = 0;
 };
 

@@ -8,7 +8,7 @@
 namespace kesto
 {
 
-/// Four buttons, one a phase, that make the list of the phases a dish fits. Stabilization is always among them.
+/// Four buttons, one per phase, for the phases in which a dish is allowed. Stabilization is always selected.
 class DietPeriodsSelector : public QAbstractListModel
 {
     Q_OBJECT
@@ -26,9 +26,9 @@ public:
 
     using QAbstractListModel::QAbstractListModel;
 
-    /// Turns the button of a phase; nothing happens for Stabilization.
+    /// Toggles the button of a phase. Does nothing for Stabilization.
     Q_INVOKABLE void buttonTouched(int tag);
-    /// The phases as a dish holds them: "0, 2, 3".
+    /// The phases in the format of Dish::dietPeriod(): "0, 2, 3".
     [[nodiscard]] QString selectedPeriods() const;
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;

@@ -15,7 +15,7 @@ namespace kesto
 
 QList<PhaseSpan> phaseSpans(int period1, int period2, int period3)
 {
-    // An earlier phase wins a day that a later one with a negative length before it reaches back to.
+    // A negative length makes the next phase begin earlier; the days belong to the earlier phase.
     QList<PhaseSpan> spans;
     qint64 sum = 0;
     qint64 taken = 0;
@@ -38,7 +38,7 @@ QVariantList phaseBar(const QList<PhaseSpan> &spans, const QDate &start)
     const auto dayText = [&](const QDate &day, int knownYear) {
         QString text =
             locale.toString(day, day.year() == knownYear ? QStringLiteral("d MMM") : QStringLiteral("d MMM yyyy"));
-        return text.replace(u' ', QChar::Nbsp); // a line ends after the dash or not at all
+        return text.replace(u' ', QChar::Nbsp); // lines break only after the dash
     };
     QVariantList bar;
     for (const PhaseSpan &span : spans) {

@@ -10,7 +10,7 @@ class QDate;
 namespace kesto
 {
 
-/// The days that a phase takes of a plan, counted from the first day of the diet.
+/// The days of a phase, counted from the first day of the diet.
 struct PhaseSpan
 {
     int phase = 0;
@@ -19,11 +19,11 @@ struct PhaseSpan
     bool operator==(const PhaseSpan &) const = default;
 };
 
-/// The phases that have days, by the lengths of the first three, as CoreDataManager tells the phase of a date. The last
-/// is Stabilization.
+/// The phases that have at least one day, given the lengths of the first three. Agrees with
+/// CoreDataManager::dietPeriodForCalendar(). The last one is Stabilization.
 [[nodiscard]] QList<PhaseSpan> phaseSpans(int period1, int period2, int period3);
 
-/// The same as a view draws it, for a diet that starts on a day: dictionaries with "name", "color", "dates" and "days"
+/// The spans for a view, of a diet that starts on a day: dictionaries with "name", "color", "dates" and "days"
 /// (0 without end).
 [[nodiscard]] QVariantList phaseBar(const QList<PhaseSpan> &spans, const QDate &start);
 

@@ -5,9 +5,9 @@ namespace kesto
 
 class ManagedObjectContext;
 
-/// Of the program's store.
+/// The context of the program's store.
 [[nodiscard]] ManagedObjectContext &planContext();
-/// What could not be written stays to be saved with the next change.
+/// Saves the context. After a failure the changes are saved with the next change.
 void savePlan();
 
 } // namespace kesto

@@ -18,13 +18,10 @@ constexpr qreal emptyHeaderHeight = 20;
 
 CoreDataManager &manager() { return CoreDataManager::sharedManager(); }
 
-/// Names a line to its view, which knows no number as large as a key may be.
+/// Identifies a line for its view, as text: JavaScript numbers are too small for all keys.
 QString nameOf(const PurhaseIngredient &line) { return QString::number(line.objectID()); }
 
-void save(const PurhaseIngredient &line)
-{
-    line.managedObjectContext().saveOrKeepChanges();
-}
+void save(const PurhaseIngredient &line) { line.managedObjectContext().saveOrKeepChanges(); }
 
 QString clearTitle() { return localized(QStringLiteral("Отчистить корзину")); }
 
@@ -35,7 +32,7 @@ CartViewController::CartViewController()
     setTitle(localized(QStringLiteral("Список покупок")));
     BarButtonItems items;
     items.push_back(BarButtonItem::withTitle(clearTitle(), [this] { clearCartIntro(); }));
-    setToolbarItems(std::move(items)); // a toolbar keeps its buttons in the middle
+    setToolbarItems(std::move(items)); // a toolbar centres its buttons
 }
 
 void CartViewController::viewWillAppear()
@@ -158,7 +155,7 @@ void CartViewController::textFieldDidEndEditing(const IndexPath &path, int, cons
     PurhaseIngredient *line = pIngAtIndexPath(path);
     if (line == nullptr)
         return;
-    // An empty field is a quantity too: one that was typed.
+    // An empty text is stored, too.
     line->setCount(text.isNull() ? QStringLiteral("") : text);
     save(*line);
     reloadRow(path);

@@ -9,7 +9,7 @@ namespace kesto
 
 class PurhaseIngredient;
 
-/// The shopping list: its lines, and outside of editing a row that adds one. A touch ticks a line off.
+/// The shopping list. While it is not being edited, a last row adds a line. A touch ticks a line off.
 class CartViewController : public TableViewController
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ class CartViewController : public TableViewController
     Q_PROPERTY(QString emptyMessage READ emptyMessage NOTIFY contentChanged)
 public:
     enum Section { LinesSection, AddSection };
-    /// Of a height: the table's own.
+    /// As a header's height: the table's default.
     static constexpr qreal standard = -1;
 
     CartViewController();
@@ -26,24 +26,24 @@ public:
     [[nodiscard]] int numberOfSections() const override { return isEditing() ? 1 : 2; }
     [[nodiscard]] int numberOfRowsInSection(int section) const override;
     [[nodiscard]] TableRow cellForRow(const IndexPath &path) const override;
-    /// In points.
+    /// In points, or `standard`.
     [[nodiscard]] qreal heightForHeaderInSection(int section) const;
     [[nodiscard]] qreal headerHeight() const { return heightForHeaderInSection(LinesSection); }
-    /// What stands in place of the lines; null where there are some.
+    /// The text shown instead of lines; null when there are lines.
     [[nodiscard]] QString emptyTitle() const;
     [[nodiscard]] QString emptyMessage() const;
 
-    /// The line of a row; null for other rows and for a line that was deleted elsewhere.
+    /// The line of a row; null for another kind of row and for a line deleted elsewhere.
     [[nodiscard]] PurhaseIngredient *pIngAtIndexPath(const IndexPath &path) const;
 
     void reloadData() override;
     void setEditing(bool editing) override;
-    /// Asks, and clears the list.
+    /// Clears the list after a confirmation.
     void clearCartIntro();
     void clearCart();
     void updateRightBBI();
 
-    /// The user has left the quantity of a line, which its row names by its value: the line may have moved since.
+    /// Stores the quantity that the user typed for a line. The row's value identifies the line, which may have moved.
     Q_INVOKABLE void endEditingCount(const QString &line, const QString &text);
 
 Q_SIGNALS:

@@ -13,31 +13,30 @@ namespace kesto
 class Dish;
 class DishDetailViewController;
 
-/// Gives a dish to a delegate, which may close the screens. Whether it took it: the dish then has a place more.
+/// Offers a dish to a delegate, which may close the screens. True when the delegate has added it.
 [[nodiscard]] bool handOver(Dish &dish, AddDishDelegate &delegate);
 
-/// What the lists of dishes have in common: they open the screens of their dishes, and in add mode dishes are chosen in
-/// the list or in the screens that it opened. Remembers what was taken, for its check mark to tell that the touch was
-/// heard.
+/// The part that all lists of dishes share: opening a dish and, in add mode, choosing dishes in the list or in the
+/// screens that it opened. Remembers the dishes that were added, so that their check marks are set.
 class DishChoice : public QObject, public AddDishDelegate
 {
     Q_OBJECT
 public:
     [[nodiscard]] bool isAddMode() const { return addMode_; }
     void setAddMode(bool addMode) { addMode_ = addMode; }
-    /// Outlives this.
+    /// The delegate outlives this.
     void setDelegate(AddDishDelegate *delegate) { delegate_ = delegate; }
 
-    /// Passes the dish on; nothing outside of add mode.
+    /// Offers the dish to the delegate. Does nothing outside add mode.
     void addDish(Dish &dish) override;
-    /// Whether the delegate has taken this dish.
+    /// Whether the delegate has added this dish.
     [[nodiscard]] bool hasTaken(const Dish &dish) const { return taken_.contains(&dish); }
 
-    /// The screen of a dish of a list. In add mode it starts selected when the dish is in the day or was taken.
+    /// The screen of a dish. In add mode it is selected at first if the dish is in the day or was added.
     [[nodiscard]] std::unique_ptr<DishDetailViewController> screenOf(Dish &dish, bool inDay, DeleteDishDelegate &list);
 
 Q_SIGNALS:
-    /// The delegate has taken the dish, or refused it.
+    /// The delegate has added the dish, or refused it.
     void answered();
 
 private:

@@ -5,8 +5,7 @@ namespace kesto
 
 class Dish;
 
-/// Takes a dish that the user chose for a day or for a row of the journal. Whether a dish may be added again is its
-/// decision.
+/// Adds a dish that the user chose to a day or to a row of the journal. Decides whether a dish may be added twice.
 class AddDishDelegate
 {
 public:
@@ -14,7 +13,7 @@ public:
     virtual void addDish(Dish &dish) = 0;
 };
 
-/// Hears that the dish of a screen that it opened was deleted.
+/// Told that the dish of a screen that it opened was deleted.
 class DeleteDishDelegate
 {
 public:

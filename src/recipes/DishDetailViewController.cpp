@@ -12,12 +12,10 @@
 #include "recipes/ImageViewController.h"
 #include "store/CoreDataManager.h"
 #include "util/ImageFiles.h"
+#include "util/TypedNumber.h"
 
 #include <QPointer>
 #include <QVariantMap>
-
-#include <algorithm>
-#include <limits>
 
 namespace kesto
 {
@@ -26,18 +24,7 @@ namespace
 {
 
 constexpr QSizeF imageSize(640, 560);
-constexpr quint32 categories = 9; // those that have an icon
-
-/// The number that a text begins with, 0 for none; the nearest there is for one too large.
-int integerValue(const QString &text)
-{
-    const QString trimmed = text.trimmed();
-    qsizetype end = trimmed.startsWith(u'-') || trimmed.startsWith(u'+') ? 1 : 0;
-    while (end < trimmed.size() && trimmed[end] >= u'0' && trimmed[end] <= u'9')
-        ++end;
-    return static_cast<int>(std::clamp<double>(trimmed.left(end).toDouble(), std::numeric_limits<int>::min(),
-                                               std::numeric_limits<int>::max()));
-}
+constexpr quint32 categories = 9; // only these have icons
 
 QVariantList badgesOf(const QString &dietPeriod)
 {

@@ -12,8 +12,8 @@ namespace kesto
 
 class Dish;
 
-/// One dish: picture, name, phases, ingredients and recipe. Shows the dish as it was when it was set; a dish that is
-/// deleted meanwhile stays to be read, and nothing can be done with it any more.
+/// One dish: picture, name, phases, ingredients and recipe. Shows the dish as it was when it was set. A dish that is
+/// deleted meanwhile can still be read, but its buttons do nothing.
 class DishDetailViewController : public ViewController, public FavoriteTarget
 {
     Q_OBJECT
@@ -40,28 +40,28 @@ public:
     /// The icon of the dish's category; null without one.
     [[nodiscard]] QString categoryPicture() const { return categoryPicture_; }
     [[nodiscard]] QString name() const { return name_; }
-    /// {text, color} a phase; what names no phase has no text and no colour.
+    /// {text, color} for each phase of the dish; a number that is no phase has neither.
     [[nodiscard]] const QVariantList &badges() const { return badges_; }
-    /// One a line.
+    /// One ingredient per line.
     [[nodiscard]] const QStringList &ingredients() const { return ingredients_; }
-    /// A paragraph a sentence.
+    /// One paragraph per sentence.
     [[nodiscard]] QString recipe() const { return recipe_; }
-    /// Of the button that deletes a dish of the user; null for the others.
+    /// The title of the button that deletes a dish; null unless the user made the dish.
     [[nodiscard]] QString deleteTitle() const { return deleteTitle_; }
 
-    /// Hands the dish to the delegate.
+    /// Offers the dish to the delegate.
     void buttonTouched();
     void updateFavoriteBBI();
     void addToFavorite() override;
     void removeFromFavorite() override;
-    /// Puts every ingredient on the shopping list.
+    /// Adds every ingredient to the shopping list.
     void addToCart();
-    /// Asks, and deletes the dish.
+    /// Deletes the dish after a confirmation.
     Q_INVOKABLE void deleteDishIntro();
     void deleteDish();
-    /// The photo as large as can be; nothing without one.
+    /// Opens the photo at full size. Does nothing without a photo.
     Q_INVOKABLE void showImage();
-    /// Any picture in the place of the photo.
+    /// Opens a picture at full size.
     void showImageNamed(const QString &imageName);
 
 Q_SIGNALS:
@@ -73,7 +73,7 @@ protected:
 private:
     void buildUI();
     void showCheckmark();
-    /// There is a dish, and it was not deleted by somebody else.
+    /// Whether there is a dish that was not deleted.
     [[nodiscard]] bool hasDish() const;
 
     Dish *dish_ = nullptr;

@@ -11,12 +11,12 @@ namespace kesto
 class DietDay;
 class Dish;
 
-// What every list of dishes goes by.
+// Helpers of all lists of dishes.
 
-/// The dishes that are planned for a day; none for one that is null or gone.
+/// The dishes that are planned for a day; none for a null or deleted day.
 [[nodiscard]] QSet<const Dish *> dishesPlannedFor(const DietDay *day);
 
-/// Dishes as the items of a list, and back.
+/// Converts dishes to the items of a list, and back.
 [[nodiscard]] QVariantList itemsOf(const std::vector<Dish *> &dishes);
 [[nodiscard]] Dish *dishOf(const QVariant &item);
 /// The items whose dish belongs to a phase.

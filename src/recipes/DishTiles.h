@@ -9,15 +9,15 @@ namespace kesto
 
 class Dish;
 
-/// What a tile shows of a dish. The texts are its own: a tile never reads a dish that is gone.
+/// The content of a dish's tile. It holds copies, so it stays valid when the dish is deleted.
 struct DishTile
 {
-    const Dish *dish = nullptr; ///< which one it is, never read
+    const Dish *dish = nullptr; ///< for comparison only; may be deleted
     QString title{};
-    QString picture{}; ///< the name of its photo, which may not exist; null for a dish that can have none
-    QString mark{};    ///< that it is new; null when it isn't
-    int markers = 0;   ///< bit k: phase k allows it
-    QString phases{};  ///< their names, in their order
+    QString picture{}; ///< the name of its photo, which may not exist; null when it cannot have one
+    QString mark{};    ///< the text of the "new" badge; null without it
+    int markers = 0;   ///< bit k is set when phase k allows the dish
+    QString phases{};  ///< the names of these phases, in order
     bool checkable = false;
     bool checked = false;
 
@@ -34,8 +34,8 @@ public:
         TitleRole = Qt::UserRole, ///< title
         PictureRole,              ///< picture
         MarkRole,                 ///< mark
-        MarkersRole,              ///< markers: a bit for each phase
-        PhasesRole,               ///< phases: the names behind the markers
+        MarkersRole,              ///< markers: one bit per phase
+        PhasesRole,               ///< phases: their names
         CheckableRole,            ///< checkable
         CheckedRole               ///< checked
     };
@@ -48,7 +48,8 @@ public:
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
     [[nodiscard]] const QList<DishTile> &tiles() const { return tiles_; }
-    /// Dishes at the beginning and at the end that stay keep their tiles; of those only the ones that differ change.
+    /// Replaces the tiles. Equal dishes at the beginning and at the end keep their rows; changed ones signal
+    /// dataChanged.
     void setTiles(const QList<DishTile> &tiles);
     void setTile(int row, const DishTile &tile);
 

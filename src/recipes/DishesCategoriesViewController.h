@@ -13,12 +13,12 @@ class DishesCategoriesViewController : public TableViewController
 {
     Q_OBJECT
 public:
-    /// To browse: a category becomes the main content.
+    /// For browsing: a category opens as the main content.
     DishesCategoriesViewController();
-    /// To choose a dish for a day of a phase (0 to 3): a category comes on the same stack.
+    /// For choosing a dish for a day in a phase (0 to 3): a category opens on the same stack.
     DishesCategoriesViewController(DietDay *day, int dietPeriod);
 
-    /// Outlives this.
+    /// The delegate outlives this.
     void setDelegate(AddDishDelegate *delegate) { delegate_ = delegate; }
 
     [[nodiscard]] int numberOfRowsInSection(int section) const override;
@@ -35,7 +35,7 @@ private:
     int period_ = 0;
     bool addDishMode_ = false;
     AddDishDelegate *delegate_ = nullptr;
-    int selectedRow_ = -1; // on a tablet, where the category stands beside this list
+    int selectedRow_ = -1; // on a tablet, which shows the category beside this list
 };
 
 } // namespace kesto

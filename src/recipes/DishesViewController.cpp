@@ -55,7 +55,7 @@ void DishesViewController::viewDidLoad()
                                                        [this] { showPeriodSelector(QStringLiteral("bar/filter")); }));
 }
 
-// The screen that covered this one may have deleted, changed or added dishes.
+// Another screen may have deleted, changed or added dishes.
 void DishesViewController::viewWillAppear()
 {
     SearchBarDietTableViewController::viewWillAppear();
@@ -107,7 +107,7 @@ void DishesViewController::dishDeleted()
 
 bool DishesViewController::dayAlreadyIncludeDish(const Dish &dish) const { return dishesOfJournal().contains(&dish); }
 
-// Two statements, however long the journal and the list are.
+// Takes two statements, whatever the length of the journal and the list.
 QSet<const Dish *> DishesViewController::dishesOfJournal() const
 {
     QSet<const Dish *> dishes;

@@ -12,8 +12,8 @@ namespace kesto
 class DietDay;
 class DishesCategory;
 
-/// The dishes of one category as a grid of tiles, to be narrowed to a phase. To browse, or to choose a dish for a day.
-/// It has no table and no search.
+/// The dishes of one category as a grid of tiles that can be filtered by phase; for browsing or for choosing a dish for
+/// a day. Has no table and no search.
 class DishesViewController : public SearchBarDietTableViewController, public DeleteDishDelegate
 {
     Q_OBJECT
@@ -22,38 +22,38 @@ class DishesViewController : public SearchBarDietTableViewController, public Del
     Q_PROPERTY(QVariantList markerColors READ markerColors CONSTANT)
     Q_PROPERTY(QString emptyText READ emptyText CONSTANT)
 public:
-    /// To browse the category of an index, 0 to 8.
+    /// For browsing a category, 0 to 8.
     explicit DishesViewController(int category);
-    /// To choose a dish that is allowed in a phase (0 to 3) for a day.
+    /// For choosing a dish for a day; only dishes allowed in the phase (0 to 3).
     DishesViewController(int category, DietDay *diedDay, int period);
 
     [[nodiscard]] DishesCategory *category() const { return category_; }
     [[nodiscard]] int categoryIndex() const { return categoryIndex_; }
     [[nodiscard]] bool addDishMode() const { return choice_.isAddMode(); }
-    /// Outlives this.
+    /// The delegate outlives this.
     void setDelegate(AddDishDelegate *delegate) { choice_.setDelegate(delegate); }
     [[nodiscard]] DishTiles *tiles() { return &tiles_; }
-    /// Of the markers on a tile, one a phase.
+    /// The colours of the phase markers on a tile.
     [[nodiscard]] QVariantList markerColors() const;
-    /// What stands in place of the tiles when there are none.
+    /// The text shown when there are no tiles.
     [[nodiscard]] QString emptyText() const;
 
-    /// Reads the category anew. With a scope selected the grid then shows the dishes of the phase that has the scope's
-    /// own number, until a scope is selected again.
+    /// Reads the category again. With a scope selected, the grid then shows the phase whose number is the scope's own
+    /// index, until a scope is selected again.
     void reloadData() override;
-    /// "All" and Stabilization show everything, the other scopes their phase.
+    /// "All" and Stabilization show every dish, the other scopes their phase.
     [[nodiscard]] QVariantList filtedItemsForPeriod(int period) const override;
-    /// A new dish of the user, for this category.
+    /// Opens the form for a new dish of this category.
     void dishAdded(Dish &dish);
     void dishDeleted() override;
 
-    /// Whether a row of the day's journal has this dish. What is only planned for the day does not count, but what was
-    /// planned from here keeps its check mark.
+    /// Whether a row of the day's journal has this dish. A dish that is only planned for the day does not count, but a
+    /// dish that was added from here keeps its check mark.
     [[nodiscard]] bool dayAlreadyIncludeDish(const Dish &dish) const;
 
-    /// The user touched a tile: opens its dish, which is new no longer.
+    /// Opens the dish of a touched tile and clears its "new" mark.
     Q_INVOKABLE void selectItem(int row);
-    /// The user touched a tile's check mark: the delegate gets the dish.
+    /// Offers the dish of a touched check mark to the delegate.
     Q_INVOKABLE void selectDishButtonTouchedAtIndexPath(int row);
 
     [[nodiscard]] bool hasSearchBar() const override { return false; }
@@ -64,7 +64,7 @@ protected:
     void viewDidLoad() override;
     void viewWillAppear() override;
     void contentDidLoad() override {} // no table to fill
-    /// The tiles again, from the items as they are.
+    /// Makes the tiles from the current items.
     void refresh() override;
     [[nodiscard]] std::unique_ptr<ViewController> makePeriodSelector(int currentPeriod) override;
 

@@ -29,7 +29,7 @@ std::vector<Dish *> FavoritesManager::favoritiesDishes() const
     request.predicate = attribute("nameRU").in(std::vector<QString>(dishesIDS_.begin(), dishesIDS_.end()));
     QHash<QString, Dish *> byName;
     for (Dish *dish : CoreDataManager::sharedManager().managedObjectContext()->fetchOrLog<Dish>(request)) {
-        if (!byName.contains(dish->nameRU())) // of two dishes of one name, the one that a look-up by name finds
+        if (!byName.contains(dish->nameRU())) // the dish that dishWithRusName() finds
             byName.insert(dish->nameRU(), dish);
     }
     std::vector<Dish *> dishes;

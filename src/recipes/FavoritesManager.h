@@ -13,7 +13,7 @@ class BarButtonItem;
 class Dish;
 class Platform;
 
-/// What a star button does to the dish of its screen.
+/// Told what a star button does to the dish of its screen.
 class FavoriteTarget
 {
 public:
@@ -22,30 +22,30 @@ public:
     virtual void removeFromFavorite() = 0;
 };
 
-/// The dishes that the user likes, in the order of their choice. A dish is known by its Russian name in every
-/// language, so a favourite survives a new import of the catalogue; a name without a dish stays in the list.
+/// The user's favourite dishes in the order in which they were added. A favourite is stored as its Russian name in
+/// every language, so it survives an import of the catalogue. A name without a dish stays in the list.
 class FavoritesManager
 {
 public:
-    /// The one of the current platform. It reads the stored list when it is made.
+    /// The current platform's manager. The first call reads the stored list.
     static FavoritesManager &sharedManager();
     explicit FavoritesManager(Platform &platform);
 
-    /// The dishes whose names are found, in stored order, with one statement for all; empty when the list is.
+    /// The dishes of the stored names that exist, in stored order. Takes one statement, or none for an empty list.
     [[nodiscard]] std::vector<Dish *> favoritiesDishes() const;
-    /// Of the stored names, repeats and lost ones included.
+    /// The number of stored names, including repeated ones and names without a dish.
     [[nodiscard]] int count() const { return static_cast<int>(dishesIDS_.size()); }
     [[nodiscard]] const QStringList &dishesIDS() const { return dishesIDS_; }
 
-    /// Appends, also what is there already. A dish without a Russian name can't be a favourite.
+    /// Appends the dish, even if it is in the list. A dish without a Russian name cannot be a favourite.
     void addDishToFavorite(const Dish &dish);
     /// Removes every entry of the dish.
     void removeDishFromFavorite(const Dish &dish);
     [[nodiscard]] bool isDishInFovorite(const Dish &dish) const;
-    /// A star that adds the dish or, for a favourite, removes it. The target outlives the button.
+    /// A star button that adds the dish, or removes it if it is a favourite. The target outlives the button.
     [[nodiscard]] std::unique_ptr<BarButtonItem> favoriteBarButtonItemForItem(const Dish &dish,
                                                                               FavoriteTarget *target) const;
-    /// Writes the list into the user defaults and, where there is one, into the cloud store.
+    /// Writes the list to the user defaults and to the cloud store if there is one.
     void syncFavs() const;
 
 private:

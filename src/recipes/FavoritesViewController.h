@@ -11,7 +11,7 @@ namespace kesto
 
 class DietDay;
 
-/// The favourite dishes by first letter: to open one, or to choose one for a day.
+/// The favourite dishes by first letter, for opening one or for choosing one for a day.
 class FavoritesViewController : public TableViewController, public DeleteDishDelegate
 {
     Q_OBJECT
@@ -22,21 +22,21 @@ public:
     void setDay(DietDay *day) { day_ = day; }
     /// The phase of the day, 0 to 3.
     void setPeriod(int period) { period_ = period; }
-    /// Before the view is loaded.
+    /// Set it before the view loads.
     void setIsAddMode(bool isAddMode) { choice_.setAddMode(isAddMode); }
-    /// Outlives this.
+    /// The delegate outlives this.
     void setDelegate(AddDishDelegate *delegate) { choice_.setDelegate(delegate); }
 
-    /// The sections: each a dictionary of "section name", a letter, and "section content", its dishes.
+    /// The sections: dictionaries of "section name", a letter, and "section content", its dishes.
     [[nodiscard]] const QVariantList &content() const { return content_; }
-    /// What stands in place of the rows when there are none.
+    /// The text shown when there are no rows.
     [[nodiscard]] QString emptyText() const;
 
     void reloadData() override;
     void dishDeleted() override { reloadData(); }
-    /// Whether this dish is planned for the day. What only the day's journal has does not count.
+    /// Whether this dish is planned for the day. A dish that only the day's journal has does not count.
     [[nodiscard]] bool dayAlreadyIncludeDish(const Dish &dish) const;
-    /// The user touched a row's check mark: the delegate gets the dish.
+    /// Offers the dish of a touched check mark to the delegate.
     void selectDishButtonTouchedAtIndexPath(const IndexPath &path);
 
     [[nodiscard]] int numberOfSections() const override { return static_cast<int>(content_.size()); }
@@ -60,7 +60,7 @@ private:
     int period_ = 0;
     DishChoice choice_;
     QVariantList content_;
-    QSet<const Dish *> included_; // while the rows are made
+    QSet<const Dish *> included_; // set while the rows are made
 };
 
 } // namespace kesto

@@ -5,7 +5,7 @@
 namespace kesto
 {
 
-/// One picture as large as there is room, to be looked at closely.
+/// One picture at the largest size that fits the screen.
 class ImageViewController : public ViewController
 {
     Q_OBJECT

@@ -7,12 +7,12 @@
 namespace kesto
 {
 
-/// What the pictures and the letters of the list of products mean.
+/// The legend of the pictures and letters in the list of products.
 class IngredientsInfoViewController : public TableViewController
 {
     Q_OBJECT
 public:
-    /// Room for all rows.
+    /// The size that shows all rows.
     static constexpr QSizeF size{340, 400};
 
     [[nodiscard]] int numberOfRowsInSection(int section) const override;

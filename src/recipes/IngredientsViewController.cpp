@@ -120,7 +120,7 @@ QVariantList IngredientsViewController::searchWithString(const QString &text, in
 
 void IngredientsViewController::didSelectRow(const IndexPath &path)
 {
-    // The answer may come when the list shows something else.
+    // The list may have changed when the answer comes.
     const QString name = nameOf(items().at(path.row));
     AlertCenter::sharedCenter().show({.style = Alert::Style::ActionSheet,
                                       .title = localized(QStringLiteral("Добавить продукт в карзину?")),

@@ -5,7 +5,8 @@
 namespace kesto
 {
 
-/// The products that the diet knows, each with its kind and its phases. A touch offers to put one on the shopping list.
+/// The products that the diet allows, each with its kind and its phases. A touch offers to add one to the shopping
+/// list.
 class IngredientsViewController : public SearchBarDietTableViewController
 {
     Q_OBJECT
@@ -18,7 +19,7 @@ public:
 
     /// The letter of a phase; null outside 0 to 3.
     [[nodiscard]] static QString abriviatureForPeriod(int period);
-    /// What the kinds of products are called, 0 to 3; null for others.
+    /// The name of a kind of product, 0 to 3; null for others.
     [[nodiscard]] static QString nameOfKind(int kind);
 
 protected:

@@ -6,7 +6,7 @@
 namespace kesto
 {
 
-/// Five rows that narrow a list of dishes to a phase: all, and the four phases.
+/// Five rows that filter a list of dishes by phase: all phases, and each of the four.
 class PeriodSelectorViewController : public TableViewController
 {
     Q_OBJECT

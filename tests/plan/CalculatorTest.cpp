@@ -95,30 +95,22 @@ TEST(CalculatorWheels, TurnBackToWhatWasStored)
 
 TEST(Calculator, ShowsTheDefaultsInBothLanguagesAndUnits)
 {
-    for (const auto &[language, metric, inputs, results, phases] :
-         std::initializer_list<std::tuple<const char *, bool, QStringList, QStringList, QStringList>>{
-             {"ru", true, texts({"30 лет", "Женский", "60.0 кг", "170.0 см", "Среднее"}),
-              texts({"20.76", "Нормальный диапазон", "62 кг", "62 кг", "-2.0 кг"}),
-              texts({"2 дн.", "-14 дн.", "-20 дн."})},
-             {"ru", false, texts({"30 лет", "Женский", "132.3 lbs", "66.9 ″", "Среднее"}),
-              texts({"20.76", "Нормальный диапазон", "137 lbs", "137 lbs", "-4.4 lbs"}),
-              texts({"2 дн.", "-14 дн.", "-20 дн."})},
-             {"en", true, texts({"30 years", "Female", "60.0 kg", "170.0 cm", "Medium"}),
-              texts({"20.76", "Normal range", "62 kg", "62 kg", "-2.0 kg"}), texts({"2 d", "-14 d", "-20 d"})},
-             {"en", false, texts({"30 years", "Female", "132.3 lbs", "66.9 ″", "Medium"}),
-              texts({"20.76", "Normal range", "137 lbs", "137 lbs", "-4.4 lbs"}), texts({"2 d", "-14 d", "-20 d"})},
-         }) {
+    for (const auto &[language, metric, inputs, results, phases, age, title] :
+         {std::tuple("ru", true, texts({"30 лет", "Женский", "60.0 кг", "170.0 см", "Среднее"}),
+                     texts({"20.76", "Нормальный диапазон", "62 кг", "62 кг", "-2.0 кг"}),
+                     texts({"2 дн.", "-14 дн.", "-20 дн."}), "год", "1 Этап. Атака"),
+          std::tuple("en", false, texts({"30 years", "Female", "132.3 lbs", "66.9 ″", "Medium"}),
+                     texts({"20.76", "Normal range", "137 lbs", "137 lbs", "-4.4 lbs"}),
+                     texts({"2 d", "-14 d", "-20 d"}), "years", "1 Phase. Attack")}) {
         PlanFixture program(inLanguage(language), metric);
         CalculatorViewController screen;
         screen.loadViewIfNeeded();
         EXPECT_EQ(details(screen, 0), inputs);
         EXPECT_EQ(details(screen, 1), results);
         EXPECT_EQ(details(screen, 2), phases);
-        EXPECT_EQ(CalculatorViewController::agePrefixForValue(21),
-                  language == QByteArray("ru") ? QStringLiteral("год") : QStringLiteral("years"));
+        EXPECT_EQ(CalculatorViewController::agePrefixForValue(21), QString::fromUtf8(age));
         EXPECT_EQ(screen.table()->numberOfSections(), 4);
-        EXPECT_EQ(screen.cellForRow({2, 0}).title,
-                  language == QByteArray("ru") ? QStringLiteral("1 Этап. Атака") : QStringLiteral("1 Phase. Attack"));
+        EXPECT_EQ(screen.cellForRow({2, 0}).title, QString::fromUtf8(title));
         EXPECT_EQ(screen.cellForRow({2, 2}).tag, 202);
         EXPECT_EQ(screen.cellForRow({1, 3}).tag, 103);
         EXPECT_FALSE(program.defaults().valueForKey(QStringLiteral("Вес")).isValid()) << "looking stores nothing";
@@ -128,19 +120,19 @@ TEST(Calculator, ShowsTheDefaultsInBothLanguagesAndUnits)
 TEST(Calculator, AgeWordGoesByTheLastDigit)
 {
     PlanFixture program;
-    for (const auto &[age, word] : std::initializer_list<std::pair<QVariant, const char *>>{{20, "лет"},
-                                                                                            {21, "год"},
-                                                                                            {22, "года"},
-                                                                                            {24, "года"},
-                                                                                            {25, "лет"},
-                                                                                            {30.0, "лет"},
-                                                                                            {31.0F, "год"},
-                                                                                            {11, "год"},
-                                                                                            {12, "года"},
-                                                                                            {14, "года"},
-                                                                                            {15, "лет"},
-                                                                                            {99, "лет"},
-                                                                                            {1, "лет"}})
+    for (const auto &[age, word] : {std::pair(QVariant(20), "лет"),
+                                    {21, "год"},
+                                    {22, "года"},
+                                    {24, "года"},
+                                    {25, "лет"},
+                                    {30.0, "лет"},
+                                    {31.0F, "год"},
+                                    {11, "год"},
+                                    {12, "года"},
+                                    {14, "года"},
+                                    {15, "лет"},
+                                    {99, "лет"},
+                                    {1, "лет"}})
         EXPECT_EQ(CalculatorViewController::agePrefixForValue(age), QString::fromUtf8(word)) << age.toInt();
 }
 
@@ -281,7 +273,7 @@ TEST(Calculator, TakesATypedWeightAsKilogramsInPoundsToo)
 
 TEST(Calculator, TakesATypedWeightThatEqualsTheRoundedOne)
 {
-    PlanFixture program;
+    const PlanFixture program;
     CalculatorViewController screen;
     screen.loadViewIfNeeded();
     screen.endEditingText(1, 3, QStringLiteral("74.6"));
@@ -293,17 +285,21 @@ TEST(Calculator, TakesATypedWeightThatEqualsTheRoundedOne)
     EXPECT_EQ(screen.period2(), -105);
 }
 
+/// The dates of the bar of phases.
+QStringList datesOfBar(const CalculatorViewController &screen)
+{
+    QStringList dates;
+    for (const QVariant &span : screen.table()->rowAt({2, 3}).value.toList())
+        dates.append(span.toMap()[QStringLiteral("dates")].toString().replace(QChar::Nbsp, u' '));
+    return dates;
+}
+
 TEST(Calculator, BarFollowsEveryEdit)
 {
     PlanFixture program(inLanguage("en"));
     CalculatorViewController screen;
     screen.loadViewIfNeeded();
-    const auto bar = [&] {
-        QStringList dates;
-        for (const QVariant &span : screen.table()->rowAt({2, 3}).value.toList())
-            dates.append(span.toMap()[QStringLiteral("dates")].toString().replace(QChar::Nbsp, u' '));
-        return dates;
-    };
+    const auto bar = [&] { return datesOfBar(screen); };
     EXPECT_EQ(bar(), texts({"7 Mar – 8 Mar", "9 Mar – …"}));
     screen.endEditingText(1, 3, QStringLiteral("55"));
     EXPECT_EQ(bar(), texts({"7 Mar – 9 Mar", "10 Mar – 13 Apr", "14 Apr – 2 Jun", "3 Jun – …"}));
@@ -334,20 +330,11 @@ TEST(Calculator, BarBeginsWithTheNewDayAfterMidnight)
     PlanFixture program(inLanguage("en"));
     auto made = std::make_unique<CalculatorViewController>();
     CalculatorViewController &screen = *made;
-    const auto first = [&] {
-        return screen.table()
-            ->rowAt({2, 3})
-            .value.toList()
-            .value(0)
-            .toMap()[QStringLiteral("dates")]
-            .toString()
-            .replace(QChar::Nbsp, u' ');
-    };
     const InWindow shown(std::move(made));
-    ASSERT_EQ(first(), QStringLiteral("7 Mar – 8 Mar"));
+    ASSERT_EQ(datesOfBar(screen).value(0), QStringLiteral("7 Mar – 8 Mar"));
     program.platform.clock().set(program.dayStart(2024, 3, 8));
     DayWatch::sharedWatch().look();
-    EXPECT_EQ(first(), QStringLiteral("8 Mar – 9 Mar"));
+    EXPECT_EQ(datesOfBar(screen).value(0), QStringLiteral("8 Mar – 9 Mar"));
 }
 
 } // namespace

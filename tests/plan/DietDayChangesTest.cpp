@@ -114,5 +114,21 @@ TEST_F(ChangingDayTest, ADayIsBuiltOnceAndOnlyTheOneThatIsShown)
     EXPECT_NE(record(10), nullptr);
 }
 
+TEST_F(ChangingDayTest, AnEditThatEmptiesADayLeavesNoRecord)
+{
+    CalendarViewController &calendar = openBesideTheMonth();
+    for (const int kind : {0, 0})
+        calendar.footer()->buttonTouched(kind);
+    EXPECT_EQ(program.days(), QStringList());
+    EXPECT_EQ(shownKinds(), "0");
+    EXPECT_EQ(shown(Screen::DaySection, 0).detail, QStringLiteral("-"));
+    calendar.footer()->endEditing(0, QStringLiteral("80"));
+    EXPECT_EQ(shown(Screen::DaySection, 0).detail, QStringLiteral("80.0 кг"));
+    calendar.footer()->endEditing(0, {});
+    EXPECT_EQ(program.days(), QStringList());
+    screen->selectRow(Screen::DaySection, 1);
+    EXPECT_EQ(program.days(), texts({"2024-03-07 00:00 chB bO=NO feast=NO"})) << "the next edit creates it again";
+}
+
 } // namespace
 } // namespace kesto::test

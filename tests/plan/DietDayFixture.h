@@ -102,6 +102,8 @@ protected:
     /// The kinds of the day: + YES, - NO, . absent.
     [[nodiscard]] std::string kinds()
     {
+        if (record() == nullptr)
+            return "no record";
         std::string text;
         for (const std::optional<bool> &kind : {record()->chB(), record()->bO(), record()->feast()})
             text += !kind ? '.' : *kind ? '+' : '-';

@@ -1,7 +1,5 @@
 #include "DietDayFixture.h"
 
-#include "objectgraph/StatementLog.h"
-
 #include <cmath>
 
 namespace kesto::test
@@ -16,7 +14,6 @@ TEST_F(DietDayScreenTest, OffersWhatThePhaseAllows)
          {std::tuple(attack, 1, "Автонаполнение Атаки"), std::tuple(cruise, 2, "Автонаполнение Круиза"),
           std::tuple(consolidation, 3, ""), std::tuple(3, 3, "")}) {
         open(period);
-        EXPECT_EQ(screen->numberOfSections(), 3);
         EXPECT_EQ(titles(0), texts({"Вес", "Чистый белок", "Белок и овощи", "Пир"}).mid(0, 1 + kindRows));
         EXPECT_EQ(titles(2), *fill != '\0' ? add + texts({fill}) : add);
         EXPECT_EQ(screen->title(), QStringLiteral("07 марта"));
@@ -247,38 +244,6 @@ TEST_F(DietDayScreenTest, BesideTheMonthBothShowTheSame)
     EXPECT_EQ(screen->table()->rowCount(), 0);
     EXPECT_FALSE(container->rightBarButtonItems().first()->isVisible());
     EXPECT_EQ(record(1), nullptr);
-}
-
-TEST(DietDayStatements, AreAsManyForManyDishes)
-{
-    QList<qsizetype> counts;
-    for (const int dishes : {2, 60}) {
-        StatementLog log;
-        PlanFixture program;
-        const QDateTime date = program.dayStart(2024, 3, 7);
-        {
-            DietDay &day = *DietDay::dietDatWithDate(date, program.context()).value();
-            for (int i = 0; i < dishes; ++i) {
-                auto &dish = program.context().insert<Dish>();
-                dish.setNameRU(QString::number(i));
-                auto &planned = program.context().insert<DishInDietDay>();
-                planned.setDisplayOrder(i);
-                planned.setDish(&dish);
-                day.addDishes(planned);
-            }
-            ASSERT_TRUE(program.context().save());
-        }
-        program.restart();
-        (void)program.context();
-        program.settle();
-        (void)log.take();
-        Screen screen(date, attack, nullptr);
-        screen.loadViewIfNeeded();
-        EXPECT_EQ(screen.table()->numberOfRowsInSection(Screen::DishesSection), dishes);
-        counts.append(log.count());
-    }
-    EXPECT_EQ(counts[0], counts[1]);
-    EXPECT_LE(counts[1], 4);
 }
 
 } // namespace

@@ -13,15 +13,15 @@ TEST(PhaseSpans, AgreeWithThePhaseOfEveryDate)
     const Calendar &calendar = program.platform.calendar();
     const QDate start(2024, 3, 29); // the clocks change two days later
     program.defaults().setValue(calendar.startOfDay(start), Keys::kStartDietDateKey);
-    for (const auto &[attack, cruise, consolidation] : std::initializer_list<std::tuple<int, int, int>>{{3, 70, 100},
-                                                                                                        {2, -14, -20},
-                                                                                                        {5, -3, 10},
-                                                                                                        {5, -10, 3},
-                                                                                                        {2, 10, -5},
-                                                                                                        {2, -14, 30},
-                                                                                                        {0, 0, 0},
-                                                                                                        {0, 5, 0},
-                                                                                                        {1, 1, 1}}) {
+    for (const auto &[attack, cruise, consolidation] : {std::tuple(3, 70, 100),
+                                                        {2, -14, -20},
+                                                        {5, -3, 10},
+                                                        {5, -10, 3},
+                                                        {2, 10, -5},
+                                                        {2, -14, 30},
+                                                        {0, 0, 0},
+                                                        {0, 5, 0},
+                                                        {1, 1, 1}}) {
         program.defaults().setInteger(attack, Keys::kPeriod1Key);
         program.defaults().setInteger(cruise, Keys::kPeriod2Key);
         program.defaults().setInteger(consolidation, Keys::kPeriod3Key);

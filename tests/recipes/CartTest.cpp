@@ -1,6 +1,5 @@
 #include "ShoppingFixture.h"
 
-#include "objectgraph/StatementLog.h"
 #include "recipes/CartViewController.h"
 
 #include <QAbstractItemModelTester>
@@ -218,27 +217,6 @@ TEST(Cart, ShowsOnReturnWhatCameMeanwhile)
     cart.screen->setEditing(true);
     cart.screen->reloadData();
     EXPECT_EQ(cart.shown(), QStringLiteral("/ ") + add) << "what went away while it was edited ends editing";
-}
-
-TEST(Cart, OpensALongListWithFewStatements)
-{
-    const auto statements = [](int size) {
-        StatementLog log;
-        CartScreen cart{};
-        cart.fillShoppingList(size);
-        cart.reopen();
-        (void)log.take();
-        cart.open();
-        const qsizetype opening = log.count();
-        EXPECT_GT(opening, 0);
-        // All that scrolling asks for.
-        for (int line = 0; line < cart.table().rowCount(); ++line)
-            EXPECT_FALSE(cart.table().lineAt(line).shown.title.isEmpty());
-        EXPECT_EQ(log.count(), 0);
-        cart.screen->selectRow(lines, size / 2);
-        return std::pair(opening, log.count());
-    };
-    EXPECT_EQ(statements(10), statements(3'000));
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "DishesFixture.h"
 
-#include "objectgraph/StatementLog.h"
 #include "recipes/DishDetailViewController.h"
 #include "recipes/DishesCategoriesViewController.h"
 #include "recipes/DishesViewController.h"
@@ -121,6 +120,7 @@ TEST_F(DishesTest, DishesOfTheUserComeAndGo)
     made.setDietPeriod(QStringLiteral("0, 2"));
     screen.dishAdded(made);
     EXPECT_EQ(made.dishCategory(), &program.category(0));
+    EXPECT_FALSE(program.context().hasChanges()) << "saved at once";
     EXPECT_EQ(titles(screen), QStringLiteral("а б бб в г д е ж"));
 
     screen.updateToPeriod(1);
@@ -147,16 +147,6 @@ TEST_F(DishesTest, DishesOfTheUserComeAndGo)
     program.save();
     screen.updateToPeriod(0);
     EXPECT_EQ(titles(screen), QStringLiteral("б в г д е"));
-}
-
-TEST_F(DishesTest, ADishThatWasHandedOverKeepsItsCategoryWhateverHappensNext)
-{
-    auto &made = program.context().insert<Dish>();
-    made.setNameRU(QStringLiteral("бб"));
-    program.save();
-    std::make_unique<DishesViewController>(0)->dishAdded(made);
-    program.restart(); // without another save
-    EXPECT_EQ(program.dish("бб").dishCategory(), &program.category(0));
 }
 
 TEST_F(DishesTest, ADishDeletedOnItsScreenLeavesTheGrid)
@@ -216,33 +206,6 @@ TEST(Dishes, AreSortedByTheirEnglishNamesInEnglish)
     other.addDish(QStringLiteral("г"), {}, 0, QStringLiteral("apple"));
     DishesViewController inEnglish(0);
     EXPECT_EQ(names(inEnglish.content()), QStringLiteral("в б а г")) << "without a name first, capitals before others";
-}
-
-TEST(Dishes, TakeAsManyStatementsForAnyNumber)
-{
-    StatementLog log;
-    QList<qsizetype> counts;
-    for (const int size : {3, 300}) {
-        RecipesFixture program;
-        for (int i = 0; i < size; ++i) {
-            Dish &dish = program.addDish(QString::number(i), QStringLiteral("0"));
-            if (i % 2 == 0)
-                program.placeInJournal(dish);
-        }
-        program.save();
-        program.restart();
-        DietDay &day = program.day();
-        (void)log.take();
-        DishesViewController screen(0, &day, 0);
-        counts.append(log.count());
-        EXPECT_EQ(screen.tiles()->count(), size);
-        EXPECT_TRUE(screen.tiles()->tiles()[0].checked);
-        screen.updateToPeriod(1);
-        counts.append(log.count());
-    }
-    EXPECT_EQ(counts[2], counts[0]);
-    EXPECT_EQ(counts[3], counts[1]);
-    EXPECT_LE(counts[0], 5);
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "plan/TypedNumber.h"
+#include "util/TypedNumber.h"
 
 #include <QRegularExpression>
 
@@ -22,7 +22,7 @@ float floatValue(const QString &text)
         QStringLiteral(R"(^\s*([+-]?(?:[0-9]+\.?[0-9]*|\.[0-9]+)(?:[eE][+-]?[0-9]+)?))"));
     QString typed = text;
     typed.replace(u',', u'.');
-    // Out of range this is infinite or 0, whatever the success it tells.
+    // toDouble() returns infinity or 0 for a number out of range; its success flag does not matter.
     const double value = beginning(typed, number).toDouble();
     constexpr double largest = std::numeric_limits<float>::max();
     return static_cast<float>(std::clamp(value, -largest, largest));
