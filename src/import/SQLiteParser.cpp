@@ -239,7 +239,7 @@ Result<void> importOldRecipes(ManagedObjectContext &context)
 Result<void> SQLiteParser::parse()
 {
     log(QStringLiteral("start parsing"));
-    const Result<void> done = importRecipes(*CoreDataManager::sharedManager().managedObjectContext());
+    Result<void> done = importRecipes(*CoreDataManager::sharedManager().managedObjectContext());
     log(QStringLiteral("end parsing"));
     return done;
 }
@@ -281,7 +281,7 @@ void SQLiteParser::addIngredientsToDish(Dish *dish, const QStringList &fromArray
 Result<void> SQLiteParser::oldParse()
 {
     log(QStringLiteral("start parsing"));
-    const Result<void> done = importOldRecipes(*CoreDataManager::sharedManager().managedObjectContext());
+    Result<void> done = importOldRecipes(*CoreDataManager::sharedManager().managedObjectContext());
     log(QStringLiteral("end parsing"));
     return done;
 }

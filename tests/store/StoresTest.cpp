@@ -234,6 +234,26 @@ TEST(Stores, AMoveWhoseMarkerCanNotBeWrittenIsAbandoned)
     moveFails("iCloudDiet.sqlite", "Diet.sqlite", 78);
 }
 
+TEST(Stores, MarkersThatTheFilesContradictLoseNothing)
+{
+    StoreFixture program(withCloud());
+    const QDateTime day = program.platform.date(2024, 3, 1);
+    program.weigh(day, 79); // in the cloud file, the only one
+    program.defaults().setBool(false, Keys::kUseICloudKey);
+    program.restart();
+    program.settle();
+    EXPECT_EQ(program.file(), QStringLiteral("Diet.sqlite"));
+    EXPECT_EQ(program.weight(day), 79);
+
+    program.defaults().setBool(true, Keys::kUseICloudKey);
+    program.defaults().setBool(true, Keys::kOldDataMerged);
+    program.restart();
+    ASSERT_TRUE(QFile::remove(program.path("iCloudDiet.sqlite")));
+    program.settle();
+    EXPECT_EQ(program.file(), QStringLiteral("iCloudDiet.sqlite"));
+    EXPECT_EQ(program.weight(day), 79);
+}
+
 /// Writes a store file that is no database.
 void writeGarbage(const QString &path)
 {
