@@ -103,7 +103,7 @@ TableRow RootViewConrollerViewController::cellForRow(const IndexPath &path) cons
     return row;
 }
 
-void RootViewConrollerViewController::didSelectRow(const IndexPath &path) { openRow(path.row); }
+void RootViewConrollerViewController::didSelectRow(const IndexPath &path, const RowId &) { openRow(path.row); }
 
 void RootViewConrollerViewController::openRow(int row)
 {

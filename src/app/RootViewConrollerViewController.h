@@ -35,7 +35,7 @@ public:
 protected:
     void viewDidLoad() override;
     void viewWillAppear() override;
-    void didSelectRow(const IndexPath &path) override;
+    void didSelectRow(const IndexPath &path, const RowId &id) override;
 
 private:
     void openFirstSection();

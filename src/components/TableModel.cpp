@@ -12,7 +12,7 @@ namespace
 /// One line of a section, to compare and to find what it is.
 struct Place
 {
-    TableModel::LineType type = TableModel::LineType::Row;
+    TableLine::Type type = TableLine::Type::Row;
     int row = -1;
 };
 
@@ -26,9 +26,9 @@ Place placeAt(const TableSection &section, int offset)
 {
     const int header = section.header.isNull() ? 0 : 1;
     if (offset < header)
-        return {.type = TableModel::LineType::Header};
+        return {.type = TableLine::Type::Header};
     const int row = offset - header;
-    return row < section.rows.size() ? Place{.row = row} : Place{.type = TableModel::LineType::Footer};
+    return row < section.rows.size() ? Place{.row = row} : Place{.type = TableLine::Type::Footer};
 }
 
 bool equalLines(const TableSection &left, int leftOffset, const TableSection &right, int rightOffset)
@@ -38,11 +38,11 @@ bool equalLines(const TableSection &left, int leftOffset, const TableSection &ri
     if (one.type != other.type)
         return false;
     switch (one.type) {
-    case TableModel::LineType::Header:
+    case TableLine::Type::Header:
         return left.header == right.header;
-    case TableModel::LineType::Footer:
+    case TableLine::Type::Footer:
         return left.footer == right.footer;
-    case TableModel::LineType::Row:
+    case TableLine::Type::Row:
         break;
     }
     return left.rows.at(one.row) == right.rows.at(other.row);
@@ -52,10 +52,10 @@ TableSection withoutLines(TableSection section, int first, int count)
 {
     for (int offset = first + count - 1; offset >= first; --offset) {
         const Place line = placeAt(section, offset);
-        if (line.type == TableModel::LineType::Row)
+        if (line.type == TableLine::Type::Row)
             section.rows.removeAt(line.row);
         else
-            (line.type == TableModel::LineType::Header ? section.header : section.footer) = QString();
+            (line.type == TableLine::Type::Header ? section.header : section.footer) = QString();
     }
     return section;
 }
@@ -64,7 +64,7 @@ TableSection withoutLines(TableSection section, int first, int count)
 
 int TableModel::rowCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : firstLines_.last(); }
 
-QHash<int, QByteArray> TableModel::roleNames() const { return {{TableModelRole, "tableModel"}}; }
+QHash<int, QByteArray> TableModel::roleNames() const { return {{LineRole, "shown"}}; }
 
 int TableModel::sectionOf(int line) const
 {
@@ -73,54 +73,61 @@ int TableModel::sectionOf(int line) const
     return static_cast<int>(std::distance(firstLines_.begin(), after)) - 1;
 }
 
-TableModel::Line TableModel::lineAt(int line) const
+TableLine TableModel::lineAt(int line) const
 {
     const int number = sectionOf(line);
     const TableSection &section = sections_.at(number);
     const int offset = line - firstLine(number);
     const Place place = placeAt(section, offset);
-    Line found{.type = place.type,
-               .path = {.section = number, .row = place.row},
-               .last = place.row >= 0 && place.row == section.rows.size() - 1};
-    if (offset > 0)
-        found.followsRow = placeAt(section, offset - 1).type == LineType::Row;
-    else if (line > 0)
-        found.followsRow = lineAt(line - 1).type == LineType::Row;
-    if (place.type == LineType::Row)
-        found.shown = section.rows.at(place.row);
-    else
-        found.shown = {.title = place.type == LineType::Header ? section.header : section.footer, .selectable = false};
+    TableLine found;
+    if (place.type == TableLine::Type::Row) {
+        static_cast<TableRow &>(found) = section.rows.at(place.row);
+    } else {
+        found.title = place.type == TableLine::Type::Header ? section.header : section.footer;
+        found.selectable = false;
+    }
+    found.type = place.type;
+    found.section = number;
+    found.row = place.row;
+    found.isLast = place.row >= 0 && place.row == section.rows.size() - 1;
+    found.followsRow = line > 0 && isRow(line - 1);
     return found;
+}
+
+bool TableModel::isRow(int line) const
+{
+    const int section = sectionOf(line);
+    return placeAt(sections_.at(section), line - firstLine(section)).type == TableLine::Type::Row;
 }
 
 QVariant TableModel::data(const QModelIndex &index, int role) const
 {
-    if (!index.isValid() || role != TableModelRole)
-        return {};
-    return QVariant::fromValue(const_cast<TableModel *>(this)); // NOLINT: views may call what they know of it
+    return index.isValid() && role == LineRole ? QVariant::fromValue(lineAt(index.row())) : QVariant();
 }
 
 int TableModel::numberOfRowsInSection(int section) const { return static_cast<int>(sections_.at(section).rows.size()); }
 
-bool TableModel::contains(const IndexPath &path) const
+bool TableModel::contains(const ShownPath &path) const
 {
     return path.section >= 0 && path.section < numberOfSections() && path.row >= 0 &&
            path.row < numberOfRowsInSection(path.section);
 }
 
-const TableRow &TableModel::rowAt(const IndexPath &path) const { return sections_.at(path.section).rows.at(path.row); }
+const TableRow &TableModel::rowAt(const ShownPath &path) const { return sections_.at(path.section).rows.at(path.row); }
 
-int TableModel::line(const IndexPath &path) const
+int TableModel::line(const ShownPath &path) const
 {
     return firstLine(path.section) + (section(path.section).header.isNull() ? 0 : 1) + path.row;
 }
 
-std::optional<IndexPath> TableModel::indexPath(int line) const
+std::optional<ShownPath> TableModel::pathOf(int section, const RowId &id) const
 {
-    if (line < 0 || line >= rowCount())
-        return std::nullopt;
-    const IndexPath path = lineAt(line).path;
-    return path.row >= 0 ? std::optional(path) : std::nullopt;
+    for (int row = 0; section >= 0 && section < numberOfSections() && row < numberOfRowsInSection(section); ++row) {
+        const RowId &present = rowAt({section, row}).id;
+        if (present == id || (!present.isSet() && RowId(row) == id))
+            return ShownPath{section, row};
+    }
+    return std::nullopt;
 }
 
 void TableModel::countLines()
@@ -130,21 +137,20 @@ void TableModel::countLines()
         firstLines_.append(firstLines_.last() + lineCount(section));
 }
 
-void TableModel::linesChanged(int first, int last, const QList<int> &roles)
+// The line after them knows whether it follows a row.
+void TableModel::linesChanged(int first, int last)
 {
+    last = std::min(last + 1, rowCount() - 1);
     if (first <= last)
-        Q_EMIT dataChanged(index(first), index(last), roles);
+        Q_EMIT dataChanged(index(first), index(last), {LineRole});
 }
 
-void TableModel::renumbered(int section)
-{
-    linesChanged(firstLine(section), firstLine(section + 1) - 1, {TableModelRole});
-}
+void TableModel::renumbered(int section) { linesChanged(firstLine(section), firstLine(section + 1) - 1); }
 
 void TableModel::renumberedFrom(int section)
 {
     if (section < numberOfSections())
-        linesChanged(firstLine(section), rowCount() - 1, {TableModelRole});
+        linesChanged(firstLine(section), rowCount() - 1);
 }
 
 void TableModel::setSections(const QList<TableSection> &sections)
@@ -225,7 +231,7 @@ void TableModel::replaceSection(int at, const TableSection &section)
         renumbered(at);
 }
 
-void TableModel::setRow(const IndexPath &path, const TableRow &row)
+void TableModel::setRow(const ShownPath &path, const TableRow &row)
 {
     TableRow &present = sections_[path.section].rows[path.row];
     if (present == row)
@@ -234,7 +240,7 @@ void TableModel::setRow(const IndexPath &path, const TableRow &row)
     linesChanged(line(path), line(path));
 }
 
-void TableModel::insertRow(const IndexPath &path, const TableRow &row)
+void TableModel::insertRow(const ShownPath &path, const TableRow &row)
 {
     beginInsertRows({}, line(path), line(path));
     sections_[path.section].rows.insert(path.row, row);
@@ -243,7 +249,7 @@ void TableModel::insertRow(const IndexPath &path, const TableRow &row)
     renumbered(path.section);
 }
 
-void TableModel::removeRow(const IndexPath &path)
+void TableModel::removeRow(const ShownPath &path)
 {
     beginRemoveRows({}, line(path), line(path));
     sections_[path.section].rows.removeAt(path.row);
@@ -252,7 +258,7 @@ void TableModel::removeRow(const IndexPath &path)
     renumbered(path.section);
 }
 
-void TableModel::moveRow(const IndexPath &from, const IndexPath &to)
+void TableModel::moveRow(const ShownPath &from, const ShownPath &to)
 {
     if (from == to)
         return;
@@ -265,7 +271,7 @@ void TableModel::moveRow(const IndexPath &from, const IndexPath &to)
     countLines();
     if (moves) // not from the end of a section to the beginning of the next where no header is between
         endMoveRows();
-    linesChanged(line(to), line(to), {TableModelRole});
+    linesChanged(line(to), line(to));
     renumbered(from.section);
     if (from.section != to.section)
         renumbered(to.section);

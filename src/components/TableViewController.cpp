@@ -43,7 +43,7 @@ void TableViewController::reloadData()
 
 void TableViewController::reloadRow(const IndexPath &path)
 {
-    const IndexPath shown = shownPath(path);
+    const ShownPath shown = shownPath(path);
     if (table_.contains(shown))
         table_.setRow(shown, cellForRow(path));
 }
@@ -56,14 +56,14 @@ void TableViewController::reloadSection(int section)
 
 void TableViewController::insertRow(const IndexPath &path)
 {
-    const IndexPath shown = shownPath(path);
+    const ShownPath shown = shownPath(path);
     if (shown.section < table_.numberOfSections() && shown.row <= table_.numberOfRowsInSection(shown.section))
         table_.insertRow(shown, cellForRow(path));
 }
 
 void TableViewController::deleteRow(const IndexPath &path)
 {
-    const IndexPath shown = shownPath(path);
+    const ShownPath shown = shownPath(path);
     if (table_.contains(shown))
         table_.removeRow(shown);
 }
@@ -99,84 +99,114 @@ std::unique_ptr<BarButtonItem> TableViewController::editButtonItem()
     return item;
 }
 
-const TableRow *TableViewController::touchedRow(int section, int row) const
+ShownPath TableViewController::shownPath(const IndexPath &content) const { return {content.section, content.row}; }
+
+std::optional<IndexPath> TableViewController::contentPath(const ShownPath &shown) const
 {
-    const IndexPath shown{section, row};
-    if (!table_.contains(shown) || !table_.rowAt(shown).enabled || !contentPath(shown))
-        return nullptr;
-    return &table_.rowAt(shown);
+    return IndexPath{shown.section, shown.row};
+}
+
+std::optional<TableViewController::Touched> TableViewController::touched(const ShownPath &path) const
+{
+    if (!table_.contains(path) || !table_.rowAt(path).enabled)
+        return std::nullopt;
+    const std::optional<IndexPath> content = contentPath(path);
+    if (!content)
+        return std::nullopt;
+    const TableRow &row = table_.rowAt(path);
+    return Touched{.row = &row, .path = *content, .id = row.id.isSet() ? row.id : RowId(content->row)};
+}
+
+std::optional<TableViewController::Touched>
+TableViewController::touchedField(const std::optional<ShownPath> &path) const
+{
+    const std::optional<Touched> found = path ? touched(*path) : std::nullopt;
+    return found && (found->row->hasField() || found->row->kind == TableRow::Kind::Custom) ? found : std::nullopt;
+}
+
+bool TableViewController::activateRow(int section, int row)
+{
+    const ShownPath path{section, row};
+    if (!table_.contains(path) || !table_.rowAt(path).enabled)
+        return true;
+    const TableRow &activated = table_.rowAt(path);
+    if (activated.hasField() || activated.kind == TableRow::Kind::Picker)
+        return false;
+    if (activated.kind == TableRow::Kind::Switch)
+        turnSwitch(section, row, !activated.on);
+    else if (activated.selectable)
+        selectRow(section, row);
+    else
+        touchAccessory(section, row);
+    return true;
 }
 
 void TableViewController::selectRow(int section, int row)
 {
-    const TableRow *touched = touchedRow(section, row);
-    if (touched && touched->selectable && !editing_)
-        didSelectRow(*contentPath({section, row}));
+    const std::optional<Touched> found = touched({section, row});
+    if (found && found->row->selectable && !editing_)
+        didSelectRow(found->path, found->id);
 }
 
-void TableViewController::editingTextChanged(int section, int row, const QString &text)
+void TableViewController::editingTextChanged(int section, const QString &id, const QString &text)
 {
-    if (const TableRow *touched = touchedRow(section, row); touched && touched->kind == TableRow::Kind::Editable)
-        textFieldTextDidChange(*contentPath({section, row}), touched->tag, text);
+    if (const std::optional<Touched> found = touchedField(table_.pathOf(section, id)))
+        textFieldTextDidChange(found->path, found->id, text);
 }
 
-void TableViewController::endEditingText(int section, int row, const QString &text)
+void TableViewController::endEditingText(int section, const QString &id, const QString &text)
 {
-    const TableRow *touched = touchedRow(section, row);
-    if (!touched || (touched->kind != TableRow::Kind::Editable && touched->kind != TableRow::Kind::Editor &&
-                     touched->kind != TableRow::Kind::Custom))
+    const std::optional<ShownPath> path = table_.pathOf(section, id);
+    const std::optional<Touched> found = touchedField(path);
+    if (!found)
         return;
-    TableRow edited = *touched;
+    TableRow edited = *found->row;
     edited.text = text;
-    table_.setRow({section, row}, edited);
-    textFieldDidEndEditing(*contentPath({section, row}), edited.tag, text);
+    table_.setRow(*path, edited);
+    textFieldDidEndEditing(found->path, found->id, text);
 }
 
 void TableViewController::turnSwitch(int section, int row, bool on)
 {
-    const TableRow *touched = touchedRow(section, row);
-    if (!touched || touched->kind != TableRow::Kind::Switch || touched->on == on)
+    const std::optional<Touched> found = touched({section, row});
+    if (!found || found->row->kind != TableRow::Kind::Switch || found->row->on == on)
         return;
-    TableRow turned = *touched;
+    TableRow turned = *found->row;
     turned.on = on;
     table_.setRow({section, row}, turned);
-    switchChanged(*contentPath({section, row}), on);
+    switchChanged(found->path, found->id, on);
 }
 
 void TableViewController::touchAccessory(int section, int row)
 {
-    const TableRow *touched = touchedRow(section, row);
-    if (touched && (touched->accessory == TableRow::Accessory::CheckButton ||
-                    touched->accessory == TableRow::Accessory::InfoButton))
-        accessoryTouched(*contentPath({section, row}));
+    if (const std::optional<Touched> found = touched({section, row}); found && found->row->hasButton())
+        accessoryTouched(found->path, found->id);
 }
 
 void TableViewController::deleteRowByUser(int section, int row)
 {
-    const TableRow *touched = touchedRow(section, row);
-    if (touched && touched->canDelete)
-        commitDelete(*contentPath({section, row}));
+    if (const std::optional<Touched> found = touched({section, row}); found && found->row->canDelete)
+        commitDelete(found->path, found->id);
 }
 
 bool TableViewController::canMoveRowByUser(int fromSection, int fromRow, int toSection, int toRow) const
 {
-    const IndexPath from{fromSection, fromRow};
-    const IndexPath to{toSection, toRow};
-    const TableRow *touched = touchedRow(fromSection, fromRow);
-    if (!touched || !touched->canMove || !editing_ || from == to || toSection < 0 ||
-        toSection >= table_.numberOfSections() || toRow < 0)
+    const std::optional<Touched> moved = touched({fromSection, fromRow});
+    if (!moved || !moved->row->canMove || !editing_ || ShownPath{fromSection, fromRow} == ShownPath{toSection, toRow} ||
+        toSection < 0 || toSection >= table_.numberOfSections() || toRow < 0)
         return false;
     const int places = table_.numberOfRowsInSection(toSection) + (fromSection == toSection ? 0 : 1);
-    return toRow < places && canMoveRow(from, to);
+    const std::optional<IndexPath> to = contentPath({toSection, toRow});
+    return toRow < places && to && canMoveRow(moved->path, *to);
 }
 
 void TableViewController::moveRowByUser(int fromSection, int fromRow, int toSection, int toRow)
 {
     if (!canMoveRowByUser(fromSection, fromRow, toSection, toRow))
         return;
-    const IndexPath from{fromSection, fromRow};
-    const IndexPath to{toSection, toRow};
-    table_.moveRow(from, to);
+    const IndexPath from = *contentPath({fromSection, fromRow});
+    const IndexPath to = *contentPath({toSection, toRow});
+    table_.moveRow({fromSection, fromRow}, {toSection, toRow});
     moveRow(from, to);
 }
 
@@ -185,12 +215,12 @@ bool TableViewController::canMoveRow(const IndexPath &from, const IndexPath &to)
     return from.section == to.section;
 }
 
-void TableViewController::didSelectRow(const IndexPath &) {}
-void TableViewController::textFieldTextDidChange(const IndexPath &, int, const QString &) {}
-void TableViewController::textFieldDidEndEditing(const IndexPath &, int, const QString &) {}
-void TableViewController::switchChanged(const IndexPath &, bool) {}
-void TableViewController::accessoryTouched(const IndexPath &) {}
-void TableViewController::commitDelete(const IndexPath &) {}
+void TableViewController::didSelectRow(const IndexPath &, const RowId &) {}
+void TableViewController::textFieldTextDidChange(const IndexPath &, const RowId &, const QString &) {}
+void TableViewController::textFieldDidEndEditing(const IndexPath &, const RowId &, const QString &) {}
+void TableViewController::switchChanged(const IndexPath &, const RowId &, bool) {}
+void TableViewController::accessoryTouched(const IndexPath &, const RowId &) {}
+void TableViewController::commitDelete(const IndexPath &, const RowId &) {}
 void TableViewController::moveRow(const IndexPath &, const IndexPath &) {}
 
 } // namespace kesto

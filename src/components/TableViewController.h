@@ -6,9 +6,9 @@
 namespace kesto
 {
 
-/// A screen that is a table. A subclass answers for its content as it is now (numberOf…, cellForRow) and reloads what
-/// changed; what the user does arrives in the hooks. Their index paths are the content's, whatever else the table
-/// shows. The table is filled after viewDidLoad.
+/// A screen that is a table. A subclass describes its content as it is now (numberOf…, cellForRow) and reloads what
+/// changed. What the user does arrives in the hooks, with the row's place in the content and its identity: the id that
+/// cellForRow() gave it, or else its place in its section. The table is filled after viewDidLoad.
 class TableViewController : public ViewController
 {
     Q_OBJECT
@@ -27,12 +27,11 @@ public:
     [[nodiscard]] virtual QString titleForHeaderInSection(int section) const;
     [[nodiscard]] virtual QString titleForFooterInSection(int section) const;
 
-    /// Nothing happens before the table is filled for the first time, with these and the following. Rows and sections
-    /// that the table does not have are left out.
+    /// These do nothing before the table is filled for the first time, and with a row or section that it does not have.
     virtual void reloadData();
     void reloadRow(const IndexPath &path);
     virtual void reloadSection(int section);
-    /// The content has the row, or has it no more; the table follows.
+    /// To be called when the content has the row or section, or has it no more.
     virtual void insertRow(const IndexPath &path);
     virtual void deleteRow(const IndexPath &path);
     virtual void insertSection(int section);
@@ -45,11 +44,14 @@ public:
 
     /// What the view calls, with the path as the table shows it. Paths that do not exist, and what a row does not
     /// offer, are ignored. A row keeps the text or the state that the user gave it until it is reloaded.
-    /// Not while editing.
+    /// As by a touch: turns its switch, or selects it, or presses its button. False when the view has to give the row
+    /// the keyboard focus, because it has a field or wheels. Ignored while editing.
+    Q_INVOKABLE bool activateRow(int section, int row);
     Q_INVOKABLE void selectRow(int section, int row);
-    /// While the user types; endEditingText() follows with what is typed in the end, if anything.
-    Q_INVOKABLE void editingTextChanged(int section, int row, const QString &text);
-    Q_INVOKABLE void endEditingText(int section, int row, const QString &text);
+    /// Of the row that the field was opened for, by its identity: rows may change their places meanwhile, and one that
+    /// is gone is ignored. The first while the user types, the second with the text in the end, if they typed any.
+    Q_INVOKABLE void editingTextChanged(int section, const QString &id, const QString &text);
+    Q_INVOKABLE void endEditingText(int section, const QString &id, const QString &text);
     Q_INVOKABLE void turnSwitch(int section, int row, bool on);
     Q_INVOKABLE void touchAccessory(int section, int row);
     Q_INVOKABLE void deleteRowByUser(int section, int row);
@@ -61,29 +63,37 @@ Q_SIGNALS:
     void editingChanged();
 
 protected:
-    virtual void didSelectRow(const IndexPath &path);
-    /// Nothing is to be stored yet. Also told when the user gives up, with what the field held.
-    virtual void textFieldTextDidChange(const IndexPath &path, int tag, const QString &text);
-    virtual void textFieldDidEndEditing(const IndexPath &path, int tag, const QString &text);
-    virtual void switchChanged(const IndexPath &path, bool on);
-    virtual void accessoryTouched(const IndexPath &path);
+    virtual void didSelectRow(const IndexPath &path, const RowId &id);
+    /// Not to be stored yet. Also called when the user presses Escape, with the text that the field had.
+    virtual void textFieldTextDidChange(const IndexPath &path, const RowId &id, const QString &text);
+    virtual void textFieldDidEndEditing(const IndexPath &path, const RowId &id, const QString &text);
+    virtual void switchChanged(const IndexPath &path, const RowId &id, bool on);
+    virtual void accessoryTouched(const IndexPath &path, const RowId &id);
     /// The content loses the row and calls deleteRow() or reloads.
-    virtual void commitDelete(const IndexPath &path);
+    virtual void commitDelete(const IndexPath &path, const RowId &id);
     /// Whether a row may be let go there; by default within its section.
     [[nodiscard]] virtual bool canMoveRow(const IndexPath &from, const IndexPath &to) const;
     /// The table has moved the row already; the content follows.
     virtual void moveRow(const IndexPath &from, const IndexPath &to);
 
-    /// Where a row of the content is in the table, and back; nothing for what is not content.
-    [[nodiscard]] virtual IndexPath shownPath(const IndexPath &content) const { return content; }
-    [[nodiscard]] virtual std::optional<IndexPath> contentPath(const IndexPath &shown) const { return shown; }
+    /// Where a row of the content is in the table, and back; nothing for a row that is not content.
+    [[nodiscard]] virtual ShownPath shownPath(const IndexPath &content) const;
+    [[nodiscard]] virtual std::optional<IndexPath> contentPath(const ShownPath &shown) const;
     /// A section as the table shows it.
     [[nodiscard]] virtual TableSection makeSection(int section) const;
     [[nodiscard]] bool isFilled() const { return filled_; }
     void contentDidLoad() override;
 
 private:
-    [[nodiscard]] const TableRow *touchedRow(int section, int row) const;
+    /// A row of the content that the user can touch.
+    struct Touched
+    {
+        const TableRow *row;
+        IndexPath path; ///< in the content
+        RowId id;
+    };
+    [[nodiscard]] std::optional<Touched> touched(const ShownPath &path) const;
+    [[nodiscard]] std::optional<Touched> touchedField(const std::optional<ShownPath> &path) const;
 
     TableModel table_;
     bool editing_ = false;

@@ -24,9 +24,9 @@ void TableViewControllerWithEcternalPicker::renewPicker()
 
 void TableViewControllerWithEcternalPicker::viewWillDisappear() { picker_->settle(); }
 
-std::optional<IndexPath> TableViewControllerWithEcternalPicker::pickerIndexPath() const
+std::optional<ShownPath> TableViewControllerWithEcternalPicker::pickerIndexPath() const
 {
-    return owner_ ? std::optional(IndexPath{owner_->section, owner_->row + 1}) : std::nullopt;
+    return owner_ ? std::optional(ShownPath{owner_->section, owner_->row + 1}) : std::nullopt;
 }
 
 TableRow TableViewControllerWithEcternalPicker::pickerRow() const
@@ -38,7 +38,7 @@ void TableViewControllerWithEcternalPicker::displayPickerForIndexPath(const Inde
 {
     const bool closesOnly = owner_ == path;
     closePicker();
-    if (closesOnly || isEditing() || !table()->contains(path))
+    if (closesOnly || isEditing() || !table()->contains(shownPath(path)))
         return;
     owner_ = path;
     renewPicker();
@@ -52,7 +52,7 @@ void TableViewControllerWithEcternalPicker::closePicker()
         picker_->settle();
     if (!owner_)
         return;
-    const IndexPath shown = *pickerIndexPath();
+    const ShownPath shown = *pickerIndexPath();
     owner_.reset();
     table()->removeRow(shown);
 }
@@ -76,17 +76,18 @@ void TableViewControllerWithEcternalPicker::updatePicker()
     picker_->setContent(titles, selectedRows);
 }
 
-IndexPath TableViewControllerWithEcternalPicker::shownPath(const IndexPath &content) const
+ShownPath TableViewControllerWithEcternalPicker::shownPath(const IndexPath &content) const
 {
     const bool below = owner_ && owner_->section == content.section && content.row > owner_->row;
     return {content.section, content.row + (below ? 1 : 0)};
 }
 
-std::optional<IndexPath> TableViewControllerWithEcternalPicker::contentPath(const IndexPath &shown) const
+std::optional<IndexPath> TableViewControllerWithEcternalPicker::contentPath(const ShownPath &shown) const
 {
-    if (!owner_ || owner_->section != shown.section || shown.row <= owner_->row)
-        return shown;
-    return shown == pickerIndexPath() ? std::nullopt : std::optional(IndexPath{shown.section, shown.row - 1});
+    if (shown == pickerIndexPath())
+        return std::nullopt;
+    const bool below = owner_ && owner_->section == shown.section && shown.row > owner_->row;
+    return IndexPath{shown.section, shown.row - (below ? 1 : 0)};
 }
 
 TableSection TableViewControllerWithEcternalPicker::makeSection(int section) const

@@ -16,7 +16,7 @@ public:
 
     [[nodiscard]] bool hasInlinePicker() const { return owner_.has_value(); }
     /// Where the table shows the picker; nothing without one.
-    [[nodiscard]] std::optional<IndexPath> pickerIndexPath() const;
+    [[nodiscard]] std::optional<ShownPath> pickerIndexPath() const;
     /// The row of the content that opened it.
     [[nodiscard]] std::optional<IndexPath> pickerOwner() const { return owner_; }
     /// Opens the picker below a row of the content, moves it there, or closes it when it is there.
@@ -47,8 +47,8 @@ protected:
     /// The user chose a row of a wheel; picker()->selectedRow() tells where all stand.
     virtual void pickerDidSelectRow(int row, int component) = 0;
 
-    [[nodiscard]] IndexPath shownPath(const IndexPath &content) const override;
-    [[nodiscard]] std::optional<IndexPath> contentPath(const IndexPath &shown) const override;
+    [[nodiscard]] ShownPath shownPath(const IndexPath &content) const override;
+    [[nodiscard]] std::optional<IndexPath> contentPath(const ShownPath &shown) const override;
     [[nodiscard]] TableSection makeSection(int section) const override;
 
 private:

@@ -174,7 +174,8 @@ TableRow FoodBalanceRootViewController::cellForRow(const IndexPath &path) const
 {
     const FoodObject &record = *content_.at(static_cast<size_t>(path.row));
     const qint64 grams = static_cast<qint64>(foodPortions(record)) * gramsOfPortion;
-    return {.title = foodOfType(record.type()) != nullptr ? foodName(record.type()) : title(),
+    return {.id = QString::number(record.objectID()),
+            .title = foodOfType(record.type()) != nullptr ? foodName(record.type()) : title(),
             .subtitle = foodProteinText(record.type()),
             .detail = stringWithFormat("%ld %@", grams, localized(QStringLiteral("г."))),
             .image = foodImage(record.type()),
@@ -182,7 +183,7 @@ TableRow FoodBalanceRootViewController::cellForRow(const IndexPath &path) const
             .canDelete = true};
 }
 
-void FoodBalanceRootViewController::commitDelete(const IndexPath &path)
+void FoodBalanceRootViewController::commitDelete(const IndexPath &path, const RowId &)
 {
     FoodObject &record = *content_.at(static_cast<size_t>(path.row));
     record.setJornalDayMeat(nullptr);

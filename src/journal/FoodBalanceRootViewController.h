@@ -41,7 +41,7 @@ public:
 
 protected:
     void viewWillAppear() override;
-    void commitDelete(const IndexPath &path) override;
+    void commitDelete(const IndexPath &path, const RowId &id) override;
     void readIntake() override;
     void readNorm() override { recalculateNormalValue(); }
 

@@ -134,7 +134,8 @@ int WaterBalanceRootViewController::numberOfRowsInSection(int) const { return st
 TableRow WaterBalanceRootViewController::cellForRow(const IndexPath &path) const
 {
     const WaterIntake &intake = content_.at(static_cast<size_t>(path.row));
-    return {.title = waterVolumeText(waterVolume(portions_, intake.portion)),
+    return {.id = intake.record != nullptr ? RowId(QString::number(intake.record->objectID())) : RowId(),
+            .title = waterVolumeText(waterVolume(portions_, intake.portion)),
             .subtitle = intake.record != nullptr ? waterPortionName(intake.portion)
                                                  : localized(QStringLiteral("Расписание дня")),
             .detail = timeText(intake.time),
@@ -143,7 +144,7 @@ TableRow WaterBalanceRootViewController::cellForRow(const IndexPath &path) const
             .canDelete = intake.record != nullptr};
 }
 
-void WaterBalanceRootViewController::commitDelete(const IndexPath &path)
+void WaterBalanceRootViewController::commitDelete(const IndexPath &path, const RowId &)
 {
     FoodObject *record = content_.at(static_cast<size_t>(path.row)).record;
     if (record == nullptr)

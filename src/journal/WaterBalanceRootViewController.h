@@ -37,7 +37,7 @@ public:
     [[nodiscard]] TableRow cellForRow(const IndexPath &path) const override;
 
 protected:
-    void commitDelete(const IndexPath &path) override;
+    void commitDelete(const IndexPath &path, const RowId &id) override;
     void readIntake() override;
     void readNorm() override { calculateNormalValue(); }
 

@@ -156,9 +156,9 @@ void CalculatorViewController::pickerView(int didSelectRow, int inComponent)
     reloadSection(ResultsSection);
 }
 
-void CalculatorViewController::textFieldDidEndEditing(const IndexPath &, int tag, const QString &text)
+void CalculatorViewController::textFieldDidEndEditing(const IndexPath &, const RowId &id, const QString &text)
 {
-    textFieldDidEndEditing(tag, text);
+    textFieldDidEndEditing(id.number(), text);
 }
 
 void CalculatorViewController::textFieldDidEndEditing(int tag, const QString &text)
@@ -176,20 +176,20 @@ void CalculatorViewController::textFieldDidEndEditing(int tag, const QString &te
     reloadRow({PhasesSection, phaseBarRow});
 }
 
-void CalculatorViewController::textFieldTextDidChange(const IndexPath &, int tag, const QString &text)
+void CalculatorViewController::textFieldTextDidChange(const IndexPath &, const RowId &id, const QString &text)
 {
-    const int index = tag - firstPeriodTag;
+    const int index = id.number() - firstPeriodTag;
     const std::optional<int> days = wholeNumber(text);
     if (index < 0 || index >= periodCount || !days)
         return;
     std::array<int, periodCount> periods = periods_;
     periods[static_cast<size_t>(index)] = typedLength(index, *days);
-    const IndexPath bar = shownPath({PhasesSection, phaseBarRow});
+    const ShownPath bar = shownPath({PhasesSection, phaseBarRow});
     if (table()->contains(bar))
         table()->setRow(bar, barRow(periods));
 }
 
-void CalculatorViewController::didSelectRow(const IndexPath &path)
+void CalculatorViewController::didSelectRow(const IndexPath &path, const RowId &)
 {
     if (path.section == InputsSection)
         displayPickerForIndexPath(path);
@@ -265,11 +265,11 @@ TableRow CalculatorViewController::inputRow(int row) const
 TableRow CalculatorViewController::fieldRow(const QString &title, const IndexPath &path, const QString &text,
                                             const QString &unit) const
 {
-    return {.kind = TableRow::Kind::Editable,
+    return {.id = path.section * 100 + path.row,
+            .kind = TableRow::Kind::Editable,
             .title = title,
             .detail = calculated_ ? QString() : QStringLiteral("-"),
             .selectable = false,
-            .tag = path.section * 100 + path.row,
             .text = text,
             .unit = unit,
             .keyboard = Keyboard::Type::Decimal};

@@ -18,7 +18,7 @@ class CalculatorViewController : public TableViewControllerWithEcternalPicker
 public:
     enum Section { InputsSection, ResultsSection, PhasesSection, StartSection };
     enum ResultsRow { BmiRow, BodyStatusRow, IdealWeightRow, WantedWeightRow, DifferenceRow };
-    /// Tags of the fields: section × 100 + row.
+    /// Tags of the fields, which are their rows' identities: section × 100 + row.
     static constexpr int wantedWeightTag = ResultsSection * 100 + WantedWeightRow;
     static constexpr int firstPeriodTag = PhasesSection * 100;
     static constexpr int periodCount = 3;
@@ -80,10 +80,10 @@ public:
 protected:
     void viewDidLoad() override;
     void viewWillAppear() override;
-    void didSelectRow(const IndexPath &path) override;
+    void didSelectRow(const IndexPath &path, const RowId &id) override;
     /// Updates the bar while a length is typed.
-    void textFieldTextDidChange(const IndexPath &path, int tag, const QString &text) override;
-    void textFieldDidEndEditing(const IndexPath &path, int tag, const QString &text) override;
+    void textFieldTextDidChange(const IndexPath &path, const RowId &id, const QString &text) override;
+    void textFieldDidEndEditing(const IndexPath &path, const RowId &id, const QString &text) override;
     [[nodiscard]] int numberOfComponentsInPicker() const override { return wheels().numberOfComponents(); }
     [[nodiscard]] int numberOfRowsInComponent(int component) const override { return wheels().numberOfRows(component); }
     [[nodiscard]] QString titleForRow(int row, int component) const override { return wheels().title(row, component); }

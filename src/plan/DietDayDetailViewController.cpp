@@ -187,14 +187,16 @@ TableRow DietDayDetailViewController::cellForRow(const IndexPath &path) const
 TableRow DietDayDetailViewController::dayRow(int row) const
 {
     if (row == weightRow)
-        return {.kind = TableRow::Kind::Value,
+        return {.id = weightRow,
+                .kind = TableRow::Kind::Value,
                 .title = localized(QStringLiteral("Вес")),
                 .detail = weightText(day_ != nullptr ? day_->weight() : std::nullopt, metrickSystem_, kgString_),
                 .image = QStringLiteral("weight.png")};
     const int kind = row - 1;
     const QString &key = DayKinds::keys().at(static_cast<size_t>(kind));
     const bool selected = day_ != nullptr && day_->valueForKey(key).toBool();
-    return {.title = DayKinds::title(kind),
+    return {.id = key,
+            .title = DayKinds::title(kind),
             .image = DayKinds::image(kind),
             .accessory = selected ? TableRow::Accessory::Checkmark : TableRow::Accessory::None,
             .selected = selected};
@@ -203,7 +205,8 @@ TableRow DietDayDetailViewController::dayRow(int row) const
 TableRow DietDayDetailViewController::dishRow(const DishInDietDay &planned) const
 {
     const bool opens = planned.dish() != nullptr;
-    return {.title = nameOfPlanned(planned),
+    return {.id = QString::number(planned.objectID()),
+            .title = nameOfPlanned(planned),
             .accessory = opens ? TableRow::Accessory::Disclosure : TableRow::Accessory::None,
             .selectable = opens,
             .canDelete = true,
@@ -212,7 +215,8 @@ TableRow DietDayDetailViewController::dishRow(const DishInDietDay &planned) cons
 
 TableRow DietDayDetailViewController::addRow(int row) const
 {
-    return {.kind = TableRow::Kind::Button,
+    return {.id = row,
+            .kind = TableRow::Kind::Button,
             .title = localized(row == AutoFillRow ? text(fillTitles, dietPeriod_) : text(addTitles, row)),
             .image = text(addImages, row)};
 }
@@ -240,20 +244,20 @@ std::unique_ptr<BarButtonItem> DietDayDetailViewController::editDishesButtonItem
     return item;
 }
 
-void DietDayDetailViewController::didSelectRow(const IndexPath &path)
+void DietDayDetailViewController::didSelectRow(const IndexPath &path, const RowId &id)
 {
     if (day() == nullptr)
         return;
     if (path.section == DaySection) {
-        if (path.row == weightRow)
+        if (id == weightRow)
             displayPickerForIndexPath(path);
         else
-            toggleKind(path.row - 1);
+            toggleKind(id.text());
     } else if (path.section == DishesSection) {
         if (Dish *dish = content_[static_cast<size_t>(path.row)]->dish())
             openDish(*dish);
     } else {
-        switch (path.row) {
+        switch (id.as<AddRow>()) {
         case AddDishRow:
             openCatalogue();
             break;
@@ -263,7 +267,7 @@ void DietDayDetailViewController::didSelectRow(const IndexPath &path)
         case AddQuickDishRow:
             askForQuickDish();
             break;
-        default:
+        case AutoFillRow:
             autoFillDay();
         }
     }
@@ -303,21 +307,19 @@ void DietDayDetailViewController::pickerDidSelectRow(int, int)
     Q_EMIT weightChanged();
 }
 
-void DietDayDetailViewController::toggleKind(int kind)
+void DietDayDetailViewController::toggleKind(const QString &kind)
 {
-    const auto &keys = DayKinds::keys();
     DietDay &shown = *day();
-    const QString &touched = keys.at(static_cast<size_t>(kind));
-    const bool selected = !shown.valueForKey(touched).toBool();
-    for (const QString &key : keys)
-        shown.setValueForKey(key == touched && selected, key);
+    const bool selected = !shown.valueForKey(kind).toBool();
+    for (const QString &key : DayKinds::keys())
+        shown.setValueForKey(key == kind && selected, key);
     savePlan();
     reloadSection(DaySection);
     if (delegate_ != nullptr && Window::sharedWindow().isTablet())
         delegate_->dietDayDetailViewControllerDidUpdateDay();
 }
 
-void DietDayDetailViewController::commitDelete(const IndexPath &path)
+void DietDayDetailViewController::commitDelete(const IndexPath &path, const RowId &)
 {
     DishInDietDay &planned = *content_[static_cast<size_t>(path.row)];
     Dish *dish = planned.dish();

@@ -28,7 +28,7 @@ public:
     /// AddSection is hidden while the table is being edited.
     enum Section { DaySection, DishesSection, AddSection };
     enum AddRow { AddDishRow, AddFavoriteRow, AddQuickDishRow, AutoFillRow };
-    /// In DaySection; the rows of the kinds follow.
+    /// Of the day's section; its other rows are the kinds, whose identity is their attribute of the day.
     static constexpr int weightRow = 0;
     /// A day with this many dishes is not filled automatically.
     static constexpr int filledDay = 4;
@@ -76,8 +76,8 @@ protected:
     void viewDidLoad() override;
     void viewWillAppear() override;
     void viewWillDisappear() override;
-    void didSelectRow(const IndexPath &path) override;
-    void commitDelete(const IndexPath &path) override;
+    void didSelectRow(const IndexPath &path, const RowId &id) override;
+    void commitDelete(const IndexPath &path, const RowId &id) override;
     void moveRow(const IndexPath &from, const IndexPath &to) override;
     [[nodiscard]] int numberOfComponentsInPicker() const override { return wheels().numberOfComponents(); }
     [[nodiscard]] int numberOfRowsInComponent(int component) const override { return wheels().numberOfRows(component); }
@@ -94,7 +94,7 @@ private:
     [[nodiscard]] TableRow addRow(int row) const;
     void refresh();
     void showDay();
-    void toggleKind(int kind);
+    void toggleKind(const QString &kind);
     DishInDietDay *plan(Dish &dish);
     void openCatalogue();
     void openFavorites();

@@ -18,9 +18,6 @@ constexpr qreal emptyHeaderHeight = 20;
 
 CoreDataManager &manager() { return CoreDataManager::sharedManager(); }
 
-/// Identifies a line for its view, as text: JavaScript numbers are too small for all keys.
-QString nameOf(const PurhaseIngredient &line) { return QString::number(line.objectID()); }
-
 void save(const PurhaseIngredient &line) { line.managedObjectContext().saveOrKeepChanges(); }
 
 QString clearTitle() { return localized(QStringLiteral("Отчистить корзину")); }
@@ -83,15 +80,15 @@ TableRow CartViewController::cellForRow(const IndexPath &path) const
         return {.enabled = false, .selectable = false};
     const Ingredient *product = line->ingredient();
     const bool purchased = line->purchased().value_or(false);
-    return {.kind = TableRow::Kind::Custom,
+    return {.id = QString::number(line->objectID()),
+            .kind = TableRow::Kind::Custom,
             .title = product != nullptr ? product->name() : QString(),
             .checked = purchased,
             .struckThrough = purchased,
             .canDelete = true,
             .text = line->count(),
             .placeholder = QStringLiteral("#"),
-            .cell = QStringLiteral("PurhaseIngredientCell"),
-            .value = nameOf(*line)};
+            .cell = QStringLiteral("PurhaseIngredientCell")};
 }
 
 qreal CartViewController::heightForHeaderInSection(int section) const
@@ -120,7 +117,7 @@ void CartViewController::setEditing(bool editing)
         insertSection(AddSection);
 }
 
-void CartViewController::didSelectRow(const IndexPath &path)
+void CartViewController::didSelectRow(const IndexPath &path, const RowId &)
 {
     if (path.section == AddSection) {
         addProduct();
@@ -150,7 +147,7 @@ void CartViewController::addProduct()
                                       }});
 }
 
-void CartViewController::textFieldDidEndEditing(const IndexPath &path, int, const QString &text)
+void CartViewController::textFieldDidEndEditing(const IndexPath &path, const RowId &, const QString &text)
 {
     PurhaseIngredient *line = pIngAtIndexPath(path);
     if (line == nullptr)
@@ -161,15 +158,7 @@ void CartViewController::textFieldDidEndEditing(const IndexPath &path, int, cons
     reloadRow(path);
 }
 
-void CartViewController::endEditingCount(const QString &line, const QString &text)
-{
-    const auto found = std::find_if(content_.begin(), content_.end(),
-                                    [&](const PurhaseIngredient *each) { return nameOf(*each) == line; });
-    if (found != content_.end())
-        textFieldDidEndEditing({LinesSection, static_cast<int>(found - content_.begin())}, 0, text);
-}
-
-void CartViewController::commitDelete(const IndexPath &path)
+void CartViewController::commitDelete(const IndexPath &path, const RowId &)
 {
     if (path.section != LinesSection || path.row >= static_cast<int>(content_.size()))
         return;

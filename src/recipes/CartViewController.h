@@ -43,17 +43,14 @@ public:
     void clearCart();
     void updateRightBBI();
 
-    /// Stores the quantity that the user typed for a line. The row's value identifies the line, which may have moved.
-    Q_INVOKABLE void endEditingCount(const QString &line, const QString &text);
-
 Q_SIGNALS:
     void contentChanged();
 
 protected:
     void viewWillAppear() override;
-    void didSelectRow(const IndexPath &path) override;
-    void textFieldDidEndEditing(const IndexPath &path, int tag, const QString &text) override;
-    void commitDelete(const IndexPath &path) override;
+    void didSelectRow(const IndexPath &path, const RowId &id) override;
+    void textFieldDidEndEditing(const IndexPath &path, const RowId &id, const QString &text) override;
+    void commitDelete(const IndexPath &path, const RowId &id) override;
 
 private:
     void addProduct();

@@ -16,7 +16,7 @@ namespace kesto
 namespace
 {
 
-// A category's row is its displayOrder.
+// By the categories' displayOrder, which is also a row's identity.
 constexpr std::array titles{u"Салаты",  u"Закуски и бутерброды", u"Первые блюда", u"Вторые блюда", u"Несладкая выпечка",
                             u"Десерты", u"Блины, Оладьи",        u"Напитки",      u"Соусы"};
 
@@ -44,20 +44,22 @@ int DishesCategoriesViewController::numberOfRowsInSection(int) const { return st
 
 TableRow DishesCategoriesViewController::cellForRow(const IndexPath &path) const
 {
-    return {.title = titleOf(path.row),
+    return {.id = path.row,
+            .title = titleOf(path.row),
             .image = stringWithFormat("%ld_recipes_icon", path.row),
             .accessory = TableRow::Accessory::Disclosure,
             .selected = path.row == selectedRow_};
 }
 
-void DishesCategoriesViewController::didSelectRow(const IndexPath &path)
+void DishesCategoriesViewController::didSelectRow(const IndexPath &, const RowId &id)
 {
+    const int category = id.number();
     if (!addDishMode_) {
-        browse(path.row);
+        browse(category);
         return;
     }
-    auto screen = std::make_unique<DishesViewController>(path.row, day_, period_);
-    screen->setTitle(titleOf(path.row));
+    auto screen = std::make_unique<DishesViewController>(category, day_, period_);
+    screen->setTitle(titleOf(category));
     screen->setDelegate(delegate_);
     if (NavigationController *stack = navigationController())
         stack->pushViewController(std::move(screen), true);

@@ -26,7 +26,7 @@ public:
 
 protected:
     void viewDidLoad() override;
-    void didSelectRow(const IndexPath &path) override;
+    void didSelectRow(const IndexPath &path, const RowId &id) override;
 
 private:
     void browse(int category);

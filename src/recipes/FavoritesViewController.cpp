@@ -92,7 +92,7 @@ Dish *FavoritesViewController::dishAt(const IndexPath &path) const
     return dish->isDeleted() ? nullptr : dish;
 }
 
-void FavoritesViewController::didSelectRow(const IndexPath &path)
+void FavoritesViewController::didSelectRow(const IndexPath &path, const RowId &)
 {
     Dish *dish = dishAt(path);
     NavigationController *stack = navigationController();

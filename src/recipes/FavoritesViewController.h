@@ -50,8 +50,8 @@ Q_SIGNALS:
 protected:
     void viewDidLoad() override;
     void viewWillAppear() override;
-    void didSelectRow(const IndexPath &path) override;
-    void accessoryTouched(const IndexPath &path) override { selectDishButtonTouchedAtIndexPath(path); }
+    void didSelectRow(const IndexPath &path, const RowId &id) override;
+    void accessoryTouched(const IndexPath &path, const RowId &) override { selectDishButtonTouchedAtIndexPath(path); }
 
 private:
     [[nodiscard]] Dish *dishAt(const IndexPath &path) const;

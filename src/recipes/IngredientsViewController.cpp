@@ -118,7 +118,7 @@ QVariantList IngredientsViewController::searchWithString(const QString &text, in
                       [&](const QVariant &product) { return nameOf(product).contains(text, Qt::CaseInsensitive); });
 }
 
-void IngredientsViewController::didSelectRow(const IndexPath &path)
+void IngredientsViewController::didSelectRow(const IndexPath &path, const RowId &)
 {
     // The list may have changed when the answer comes.
     const QString name = nameOf(items().at(path.row));

@@ -24,7 +24,7 @@ public:
 
 protected:
     void viewDidLoad() override;
-    void didSelectRow(const IndexPath &path) override;
+    void didSelectRow(const IndexPath &path, const RowId &id) override;
     [[nodiscard]] QVariantList searchWithString(const QString &text, int scope) const override;
 
 private:

@@ -27,17 +27,18 @@ int PeriodSelectorViewController::numberOfRowsInSection(int) const { return stat
 
 TableRow PeriodSelectorViewController::cellForRow(const IndexPath &path) const
 {
-    return {.kind = TableRow::Kind::Text,
+    return {.id = path.row,
+            .kind = TableRow::Kind::Text,
             .title = localized(titles()[path.row]),
             .accessory = path.row == currentPeriod_ ? TableRow::Accessory::Checkmark : TableRow::Accessory::None};
 }
 
-void PeriodSelectorViewController::didSelectRow(const IndexPath &path)
+void PeriodSelectorViewController::didSelectRow(const IndexPath &, const RowId &id)
 {
-    currentPeriod_ = path.row;
+    currentPeriod_ = id.number();
     reloadData();
     if (delegate_ != nullptr)
-        delegate_->updateToPeriod(path.row);
+        delegate_->updateToPeriod(currentPeriod_);
 }
 
 } // namespace kesto

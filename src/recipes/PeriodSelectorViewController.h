@@ -18,7 +18,7 @@ public:
     [[nodiscard]] TableRow cellForRow(const IndexPath &path) const override;
 
 protected:
-    void didSelectRow(const IndexPath &path) override;
+    void didSelectRow(const IndexPath &path, const RowId &id) override;
 
 private:
     int currentPeriod_;

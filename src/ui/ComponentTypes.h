@@ -109,6 +109,13 @@ struct TableModelType
     QML_UNCREATABLE("made in C++")
 };
 
+struct TableLineType
+{
+    Q_GADGET
+    QML_FOREIGN(kesto::TableLine)
+    QML_VALUE_TYPE(tableLine)
+};
+
 struct PickerType
 {
     Q_GADGET

@@ -65,8 +65,8 @@ public:
     }
 
 protected:
-    void didSelectRow(const IndexPath &path) override { displayPickerForIndexPath(path); }
-    void commitDelete(const IndexPath &path) override { remove(path); }
+    void didSelectRow(const IndexPath &path, const RowId &) override { displayPickerForIndexPath(path); }
+    void commitDelete(const IndexPath &path, const RowId &) override { remove(path); }
     [[nodiscard]] int numberOfComponentsInPicker() const override { return 2; }
     [[nodiscard]] int numberOfRowsInComponent(int component) const override { return component == 0 ? 26 : 10; }
     [[nodiscard]] QString titleForRow(int row, int component) const override
@@ -101,20 +101,20 @@ TEST_F(InlinePickerTest, ATouchOpensMovesAndClosesIt)
 {
     const struct
     {
-        IndexPath touched; // as the table shows it
+        ShownPath touched; // as the table shows it
         const char *shown;
-        std::optional<IndexPath> picker;
+        std::optional<ShownPath> picker;
     } steps[] = {
-        {{0, 0}, "a |a b c / d e", IndexPath{0, 1}},
-        {{0, 2}, "a b |b c / d e", IndexPath{0, 2}},
-        {{0, 0}, "a |a b c / d e", IndexPath{0, 1}},
-        {{0, 3}, "a b c |c / d e", IndexPath{0, 3}},
+        {{0, 0}, "a |a b c / d e", ShownPath{0, 1}},
+        {{0, 2}, "a b |b c / d e", ShownPath{0, 2}},
+        {{0, 0}, "a |a b c / d e", ShownPath{0, 1}},
+        {{0, 3}, "a b c |c / d e", ShownPath{0, 3}},
         {{0, 2}, "a b c / d e", {}},
-        {{0, 2}, "a b c |c / d e", IndexPath{0, 3}},
-        {{0, 3}, "a b c |c / d e", IndexPath{0, 3}}, // the picker's own row
-        {{1, 0}, "a b c / d |d e", IndexPath{1, 1}},
-        {{1, 2}, "a b c / d e |e", IndexPath{1, 2}},
-        {{1, 9}, "a b c / d e |e", IndexPath{1, 2}},
+        {{0, 2}, "a b c |c / d e", ShownPath{0, 3}},
+        {{0, 3}, "a b c |c / d e", ShownPath{0, 3}}, // the picker's own row
+        {{1, 0}, "a b c / d |d e", ShownPath{1, 1}},
+        {{1, 2}, "a b c / d e |e", ShownPath{1, 2}},
+        {{1, 9}, "a b c / d e |e", ShownPath{1, 2}},
         {{1, 1}, "a b c / d e", {}},
     };
     for (const auto &step : steps) {

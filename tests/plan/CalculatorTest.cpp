@@ -111,8 +111,8 @@ TEST(Calculator, ShowsTheDefaultsInBothLanguagesAndUnits)
         EXPECT_EQ(CalculatorViewController::agePrefixForValue(21), QString::fromUtf8(age));
         EXPECT_EQ(screen.table()->numberOfSections(), 4);
         EXPECT_EQ(screen.cellForRow({2, 0}).title, QString::fromUtf8(title));
-        EXPECT_EQ(screen.cellForRow({2, 2}).tag, 202);
-        EXPECT_EQ(screen.cellForRow({1, 3}).tag, 103);
+        EXPECT_EQ(screen.cellForRow({2, 2}).id, RowId(202));
+        EXPECT_EQ(screen.cellForRow({1, 3}).id, RowId(103));
         EXPECT_FALSE(program.defaults().valueForKey(QStringLiteral("Вес")).isValid()) << "looking stores nothing";
     }
 }
@@ -152,7 +152,7 @@ TEST(Calculator, StoresPicksAndForgetsTheWantedWeight)
         EXPECT_EQ(screen.table()->numberOfRowsInSection(0), 6);
         EXPECT_EQ(screen.wantedWeight(), screen.idealWeidht());
         pick(screen, Input::Sex, {0});
-        EXPECT_EQ(screen.pickerIndexPath(), (IndexPath{0, 2}));
+        EXPECT_EQ(screen.pickerIndexPath(), (ShownPath{0, 2}));
         pick(screen, Input::Height, {80});
         pick(screen, Input::Age, {11});
         EXPECT_EQ(details(screen, 0), texts({"21 год", "Мужской", "100.5 кг", "180.0 см", "Среднее"}));
@@ -184,7 +184,7 @@ TEST(Calculator, WeighsAPickAgainstTheWeightThatWasWantedBefore)
     PlanFixture program;
     CalculatorViewController screen;
     screen.loadViewIfNeeded();
-    screen.endEditingText(1, 3, QStringLiteral("55"));
+    screen.endEditingText(1, QStringLiteral("103"), QStringLiteral("55"));
     pick(screen, Input::Weight, {60, 0});
     EXPECT_EQ(screen.difWeight(), 45);
     EXPECT_EQ(screen.period1(), 7);
@@ -241,11 +241,11 @@ TEST(Calculator, TakesWhateverIsTypedIntoItsFields)
                                          {"2147483647", 2147483647.0F, 2147483647, "2147483647"},
                                          {"2147483648", 2147483648.0F, 2147483647, "2147483647"},
                                          {"1000000000000000000", 1e18F, 2147483647, "2147483647"}}) {
-        screen.endEditingText(1, 3, QString::fromUtf8(each.text));
+        screen.endEditingText(1, QStringLiteral("103"), QString::fromUtf8(each.text));
         EXPECT_EQ(screen.wantedWeight(), each.wanted) << each.text;
         EXPECT_EQ(screen.difWeight(), 60 - each.wanted) << each.text;
         for (int row = 0; row < 3; ++row)
-            screen.endEditingText(2, row, QString::fromUtf8(each.text));
+            screen.endEditingText(2, QString::number(200 + row), QString::fromUtf8(each.text));
         const int attack = std::min(each.length, CalculatorViewController::longestAttack);
         EXPECT_EQ(screen.table()->rowAt({2, 0}).text, QString::number(attack));
         EXPECT_EQ(screen.table()->rowAt({2, 2}).text, QString::fromUtf8(each.shown));
@@ -262,9 +262,9 @@ TEST(Calculator, TakesATypedWeightAsKilogramsInPoundsToo)
     CalculatorViewController screen;
     screen.loadViewIfNeeded();
     ASSERT_EQ(screen.cellForRow({1, 3}).text, QStringLiteral("137"));
-    screen.endEditingText(1, 3, QStringLiteral("137"));
+    screen.endEditingText(1, QStringLiteral("103"), QStringLiteral("137"));
     EXPECT_EQ(screen.wantedWeight(), 137) << "whoever types what is on show means it";
-    screen.endEditingText(1, 3, QStringLiteral("50"));
+    screen.endEditingText(1, QStringLiteral("103"), QStringLiteral("50"));
     EXPECT_EQ(screen.wantedWeight(), 50);
     EXPECT_EQ(screen.cellForRow({1, 3}).text, QStringLiteral("110"));
     EXPECT_EQ(screen.difWeight(), 10);
@@ -276,10 +276,10 @@ TEST(Calculator, TakesATypedWeightThatEqualsTheRoundedOne)
     const PlanFixture program;
     CalculatorViewController screen;
     screen.loadViewIfNeeded();
-    screen.endEditingText(1, 3, QStringLiteral("74.6"));
+    screen.endEditingText(1, QStringLiteral("103"), QStringLiteral("74.6"));
     ASSERT_EQ(screen.cellForRow({1, 3}).text, QStringLiteral("75"));
     EXPECT_EQ(screen.period2(), -102);
-    screen.endEditingText(1, 3, QStringLiteral("75"));
+    screen.endEditingText(1, QStringLiteral("103"), QStringLiteral("75"));
     EXPECT_EQ(screen.wantedWeight(), 75);
     EXPECT_EQ(screen.difWeight(), -15);
     EXPECT_EQ(screen.period2(), -105);
@@ -301,9 +301,9 @@ TEST(Calculator, BarFollowsEveryEdit)
     screen.loadViewIfNeeded();
     const auto bar = [&] { return datesOfBar(screen); };
     EXPECT_EQ(bar(), texts({"7 Mar – 8 Mar", "9 Mar – …"}));
-    screen.endEditingText(1, 3, QStringLiteral("55"));
+    screen.endEditingText(1, QStringLiteral("103"), QStringLiteral("55"));
     EXPECT_EQ(bar(), texts({"7 Mar – 9 Mar", "10 Mar – 13 Apr", "14 Apr – 2 Jun", "3 Jun – …"}));
-    screen.endEditingText(2, 1, QStringLiteral("1"));
+    screen.endEditingText(2, QStringLiteral("201"), QStringLiteral("1"));
     EXPECT_EQ(bar(), texts({"7 Mar – 9 Mar", "10 Mar", "11 Mar – 29 Apr", "30 Apr – …"}));
 
     // Also while something is typed, but then it is not taken yet.
@@ -311,17 +311,17 @@ TEST(Calculator, BarFollowsEveryEdit)
          {std::pair("5", "10 Mar – 14 Mar"), std::pair("5x", "10 Mar – 14 Mar"), std::pair("x", "10 Mar – 14 Mar"),
           std::pair("", "10 Mar – 14 Mar"), std::pair("0", "10 Mar"), std::pair("-3", "10 Mar"),
           std::pair("99999999999", "10 Mar – 17 Sep 5881634")}) {
-        screen.editingTextChanged(2, 1, QString::fromUtf8(typed));
+        screen.editingTextChanged(2, QStringLiteral("201"), QString::fromUtf8(typed));
         EXPECT_EQ(bar()[1].toStdString(), shown) << typed;
         EXPECT_EQ(screen.period2(), 1);
         EXPECT_EQ(screen.table()->rowAt({2, 1}).text, QStringLiteral("1"));
     }
-    screen.editingTextChanged(2, 0, QStringLiteral("99999999999"));
+    screen.editingTextChanged(2, QStringLiteral("200"), QStringLiteral("99999999999"));
     EXPECT_EQ(bar()[1].toStdString(), "12 Feb 2124") << "the Attack has an end, and the other phases are as they were";
-    for (const IndexPath &other : {IndexPath{1, 3}, IndexPath{0, 0}, IndexPath{2, 3}, IndexPath{9, 9}})
-        screen.editingTextChanged(other.section, other.row, QStringLiteral("77"));
+    for (const auto &[section, id] : {std::pair(1, 103), {0, 0}, {2, 3}, {9, 9}})
+        screen.editingTextChanged(section, QString::number(id), QStringLiteral("77"));
     EXPECT_EQ(bar()[1].toStdString(), "12 Feb 2124");
-    screen.endEditingText(2, 1, QStringLiteral("2"));
+    screen.endEditingText(2, QStringLiteral("201"), QStringLiteral("2"));
     EXPECT_EQ(bar(), texts({"7 Mar – 9 Mar", "10 Mar – 11 Mar", "12 Mar – 30 Apr", "1 May – …"}));
 }
 

@@ -43,7 +43,7 @@ TEST(DietStart, LeadsFromAFreshProgramToTheCalendar)
          {std::tuple("ru", true, "Начать диету с", "Отменить", "Начать", "Атака", "кг"),
           std::tuple("en", false, "Start the diet on", "Cancel", "Start", "Attack", "lbs")}) {
         Start start({.language = QLatin1String(language), .cloud = true}, metric);
-        start.screen->endEditingText(2, 1, QStringLiteral("33"));
+        start.screen->endEditingText(2, QStringLiteral("201"), QStringLiteral("33"));
         start.screen->selectRow(0, 0);
 
         start.screen->startDietIntro();
@@ -154,7 +154,7 @@ TEST(DietStart, ThePlanIsOnDiskAtOnce)
 TEST(DietStart, TakesDatesYearsAwayAndTheLongestAttack)
 {
     Start start;
-    start.screen->endEditingText(2, 0, QStringLiteral("4000000000"));
+    start.screen->endEditingText(2, QStringLiteral("200"), QStringLiteral("4000000000"));
     start.startOn(start.program.dayStart(2123, 7, 1));
     EXPECT_EQ(start.program.manager().startDietDay(), start.program.dayStart(2123, 7, 1));
     EXPECT_EQ(start.program.days().size(), CalculatorViewController::longestAttack);

@@ -82,12 +82,12 @@ TableRow SampleTable::cellForRow(const IndexPath &path) const
             row.text = days_;
             row.unit = localized(QStringLiteral("дней"));
             row.keyboard = Keyboard::Type::Decimal;
-            row.tag = 200;
+            row.id = 200;
         } else if (path.row == 2) {
             row.kind = TableRow::Kind::Editable;
             row.text = name_;
             row.placeholder = localized(QStringLiteral("Название блюда"));
-            row.tag = 201;
+            row.id = 201;
         } else {
             row.kind = TableRow::Kind::Editor;
             row.title = localized(QStringLiteral("Рецепт"));
@@ -99,6 +99,7 @@ TableRow SampleTable::cellForRow(const IndexPath &path) const
     case Products:
         row.title = products_.at(path.row);
         row.struckThrough = bought_.contains(row.title);
+        row.id = row.title;
         row.canDelete = true;
         row.canMove = true;
         return row;
@@ -147,7 +148,7 @@ TableRow SampleTable::choice(int index) const
     return row;
 }
 
-void SampleTable::didSelectRow(const IndexPath &path)
+void SampleTable::didSelectRow(const IndexPath &path, const RowId &)
 {
     hear(QStringLiteral("selected %1.%2").arg(path.section).arg(path.row));
     if (path == IndexPath{Fields, 0})
@@ -160,28 +161,28 @@ void SampleTable::didSelectRow(const IndexPath &path)
     reloadRow(path);
 }
 
-void SampleTable::textFieldDidEndEditing(const IndexPath &path, int tag, const QString &text)
+void SampleTable::textFieldDidEndEditing(const IndexPath &path, const RowId &id, const QString &text)
 {
-    hear(QStringLiteral("%1: %2").arg(tag).arg(text));
-    if (tag == 200)
+    hear(QStringLiteral("%1: %2").arg(id.text(), text));
+    if (id == 200)
         days_ = text.toInt() < 1 ? QStringLiteral("1") : text;
-    else if (tag == 201)
+    else if (id == 201)
         name_ = text;
     reloadRow(path);
 }
 
-void SampleTable::switchChanged(const IndexPath &, bool on)
+void SampleTable::switchChanged(const IndexPath &, const RowId &, bool on)
 {
     hear(on ? QStringLiteral("on") : QStringLiteral("off"));
     on_ = on;
 }
 
-void SampleTable::accessoryTouched(const IndexPath &path)
+void SampleTable::accessoryTouched(const IndexPath &path, const RowId &)
 {
     hear(QStringLiteral("accessory %1.%2").arg(path.section).arg(path.row));
 }
 
-void SampleTable::commitDelete(const IndexPath &path)
+void SampleTable::commitDelete(const IndexPath &path, const RowId &)
 {
     hear(QStringLiteral("deleted ") + products_.takeAt(path.row));
     deleteRow(path);

@@ -37,11 +37,11 @@ Q_SIGNALS:
 
 protected:
     void viewDidLoad() override;
-    void didSelectRow(const IndexPath &path) override;
-    void textFieldDidEndEditing(const IndexPath &path, int tag, const QString &text) override;
-    void switchChanged(const IndexPath &path, bool on) override;
-    void accessoryTouched(const IndexPath &path) override;
-    void commitDelete(const IndexPath &path) override;
+    void didSelectRow(const IndexPath &path, const RowId &id) override;
+    void textFieldDidEndEditing(const IndexPath &path, const RowId &id, const QString &text) override;
+    void switchChanged(const IndexPath &path, const RowId &id, bool on) override;
+    void accessoryTouched(const IndexPath &path, const RowId &id) override;
+    void commitDelete(const IndexPath &path, const RowId &id) override;
     void moveRow(const IndexPath &from, const IndexPath &to) override;
     [[nodiscard]] int numberOfComponentsInPicker() const override { return 2; }
     [[nodiscard]] int numberOfRowsInComponent(int component) const override { return component == 0 ? 151 : 10; }

@@ -254,11 +254,11 @@ Item {
             mouseClick(row(0, 0));
             const wheels = row(0, 1);
             verify(wheels.height > 150);
-            compare(wheels.kind, TableRow.Picker);
+            compare(wheels.shown.kind, TableRow.Picker);
             keys(Qt.Key_Down, Qt.Key_Return);
             keys(Qt.Key_Down);
             compare(table.heard, ["selected 0.0", "71.5"]);
-            verify(row(0, 0).detail.startsWith("71.5"));
+            verify(row(0, 0).shown.detail.startsWith("71.5"));
         }
 
         function test_wheelsThatTurnCountWhenTheyGo_data() {
@@ -305,7 +305,7 @@ Item {
                 list.positionViewAtIndex(line, ListView.Contain);
                 wait(10);
                 const item = list.itemAtIndex(line);
-                verify(!item.isRow || item.height >= 44, "row " + line + " is " + item.height + " high");
+                verify(!item.shown.isRow || item.height >= 44, "row " + line + " is " + item.height + " high");
                 for (const text of stage.all(item, child => child.hasOwnProperty("truncated") && child.visible)) {
                     const where = text.mapToItem(item, 0, 0);
                     verify(!text.truncated, "cut: " + text.text);
@@ -325,17 +325,17 @@ Item {
             };
             keys(Qt.Key_Home);
             const first = row(0, 0);
-            compare(chosen(), [Accessible.ListItem, first.title + ", " + first.detail, ""]);
+            compare(chosen(), [Accessible.ListItem, first.shown.title + ", " + first.shown.detail, ""]);
             keys(Qt.Key_Down);
             const field = row(0, 1);
-            compare(chosen(), [Accessible.Grouping, field.title, "5 " + field.unit]);
+            compare(chosen(), [Accessible.Grouping, field.shown.title, "5 " + field.shown.unit]);
             verify(first.Accessible.ignored);
             keys(Qt.Key_Return);
             verify(fieldOf(field).activeFocus);
             verify(field.Accessible.ignored, "the field has the keys, and its own name");
             keys(Qt.Key_7, Qt.Key_Return);
-            compare(chosen()[2], "7 " + field.unit);
-            while (!stage.Window.activeFocusItem.hasOwnProperty("kind") || stage.Window.activeFocusItem.kind !== TableRow.Switch)
+            compare(chosen()[2], "7 " + field.shown.unit);
+            while (stage.Window.activeFocusItem.shown?.kind !== TableRow.Switch)
                 keys(Qt.Key_Down);
             compare(chosen()[0], Accessible.CheckBox);
             verify(stage.Window.activeFocusItem.Accessible.checked);
@@ -348,7 +348,7 @@ Item {
                 list.positionViewAtIndex(line, ListView.Contain);
                 wait(10);
                 const item = list.itemAtIndex(line);
-                if (!item.isRow)
+                if (!item.shown.isRow)
                     continue;
                 const named = stage.all(item, child => child.Accessible && !child.Accessible.ignored && child.Accessible.name.length > 0);
                 verify(named.length > 0, "row " + line);

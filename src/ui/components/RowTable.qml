@@ -63,7 +63,7 @@ TableBase {
             return;
         list.forceLayout();
         let i = Math.max(0, list.indexAt(list.width / 2, list.contentY + 1));
-        for (list.currentIndex = i; i < list.count && !(currentLine() && currentLine().isRow); )
+        for (list.currentIndex = i; i < list.count && !(currentLine() && currentLine().shown.isRow); )
             list.currentIndex = ++i;
     }
     /*! To the next row, over headers and footers. */
@@ -77,7 +77,7 @@ TableBase {
                 return false;
             }
             list.currentIndex = i;
-        } while (!currentLine() || !currentLine().isRow);
+        } while (!currentLine() || !currentLine().shown.isRow);
         list.positionViewAtIndex(list.currentIndex, ListView.Contain);
         return true;
     }
@@ -89,7 +89,7 @@ TableBase {
         for (let i = from.index + by; i >= 0 && i < list.count; i += by) {
             list.currentIndex = i;
             const line = currentLine();
-            if (line && line.isRow && line.enabled && (line.kind === TableRow.Editable || line.kind === TableRow.Editor)) {
+            if (line && line.enabled && line.shown.hasField) {
                 line.activate();
                 return true;
             }
@@ -114,7 +114,7 @@ TableBase {
         target = null;
         for (const back = i > line.index ? -1 : 1; i >= 0 && i !== line.index && !target; i += back) {
             const each = list.itemAtIndex(i) as TableLine;
-            if (each && each.isRow && controller.canMoveRowByUser(line.section, line.row, each.section, each.row))
+            if (each && each.shown.isRow && controller.canMoveRowByUser(line.shown.section, line.shown.row, each.shown.section, each.shown.row))
                 target = each;
         }
     }
@@ -128,18 +128,18 @@ TableBase {
         carry(line);
     }
     function drop(line: TableLine): void {
-        const section = target ? target.section : -1;
-        const row = target ? target.row : -1;
+        const section = target ? target.shown.section : -1;
+        const row = target ? target.shown.row : -1;
         line.lift = 0;
         carriedBy = 0;
         carriedLine = null;
         target = null;
         if (section >= 0)
-            controller.moveRowByUser(line.section, line.row, section, row);
+            controller.moveRowByUser(line.shown.section, line.shown.row, section, row);
     }
     function step(line: TableLine, by: int): void {
-        if (line.canMove && line.row + by >= 0)
-            controller.moveRowByUser(line.section, line.row, line.section, line.row + by);
+        if (line.shown.canMove && line.shown.row + by >= 0)
+            controller.moveRowByUser(line.shown.section, line.shown.row, line.shown.section, line.shown.row + by);
     }
 
     ListView {

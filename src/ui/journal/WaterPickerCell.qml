@@ -9,12 +9,12 @@ FocusScope {
 
     implicitHeight: content.height + 2 * content.y
     Accessible.role: Accessible.Grouping
-    Accessible.name: line.title
+    Accessible.name: line.shown.title
 
     RowSurface {
         anchors.fill: parent
-        first: cell.line.isFirst
-        last: cell.line.isLast
+        first: cell.line.shown.isFirst
+        last: cell.line.shown.isLast
     }
     Column {
         id: content
@@ -30,18 +30,18 @@ FocusScope {
 
             Icon {
                 anchors.verticalCenter: parent.verticalCenter
-                name: cell.line.image
+                name: cell.line.shown.image
             }
             Label {
                 anchors.verticalCenter: parent.verticalCenter
-                text: cell.line.title
+                text: cell.line.shown.title
             }
         }
         PortionPicker {
             width: parent.width
             focus: true
-            name: cell.line.title
-            picker: cell.line.value as WaterPicker
+            name: cell.line.shown.title
+            picker: cell.line.shown.value as WaterPicker
         }
     }
     FocusRing {

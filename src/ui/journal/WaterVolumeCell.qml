@@ -13,12 +13,12 @@ FocusScope {
 
     implicitHeight: Math.max(icon.height, words.height + slider.height) + 2 * Tokens.unit
     Accessible.role: Accessible.Grouping
-    Accessible.name: Texts.joined([line.subtitle, line.title])
+    Accessible.name: Texts.joined([line.shown.subtitle, line.shown.title])
 
     RowSurface {
         anchors.fill: parent
-        first: cell.line.isFirst
-        last: cell.line.isLast
+        first: cell.line.shown.isFirst
+        last: cell.line.shown.isLast
         inset: words.x
     }
     Icon {
@@ -26,7 +26,7 @@ FocusScope {
 
         x: Tokens.margin
         anchors.verticalCenter: parent.verticalCenter
-        name: cell.line.image
+        name: cell.line.shown.image
         size: Tokens.tilePicture
         color: Tokens.inkOf(Tokens.waterShade)
     }
@@ -40,10 +40,10 @@ FocusScope {
 
         Label {
             width: Math.min(implicitWidth, words.width)
-            text: cell.line.subtitle
+            text: cell.line.shown.subtitle
         }
         Label {
-            text: cell.line.title
+            text: cell.line.shown.title
             color: Tokens.colors.accentText
             font.weight: Font.Medium
             wrapMode: Text.NoWrap
@@ -55,12 +55,12 @@ FocusScope {
         x: words.x
         anchors.top: words.bottom
         width: words.width
-        name: Texts.joined([cell.line.subtitle, cell.line.title])
-        to: cell.line.values[1] ?? 0
-        stepSize: cell.line.values[2] ?? 0
+        name: Texts.joined([cell.line.shown.subtitle, cell.line.shown.title])
+        to: cell.line.shown.values[1] ?? 0
+        stepSize: cell.line.shown.values[2] ?? 0
         snapMode: Slider.SnapAlways
-        value: cell.line.values[0] ?? 0
+        value: cell.line.shown.values[0] ?? 0
         activeFocusOnTab: cell.line.ListView.isCurrentItem || activeFocus
-        onMoved: (cell.line.controller as WaterValuesTableViewController).sliderMoved(value, cell.line.row)
+        onMoved: (cell.line.controller as WaterValuesTableViewController).sliderMoved(value, cell.line.shown.row)
     }
 }

@@ -49,7 +49,7 @@ Column {
                 first: index === 0
                 last: false
                 text: modelData.text
-                onCommitted: text => view.footer.endEditing(modelData.tag, text)
+                onCommitted: (subject, text) => view.footer.endEditing(modelData.tag, text)
                 onFinished: entered => entered ? view.next(index) : view.finished()
                 Component.onCompleted: field.activeFocusOnTab = true
             }

@@ -9,7 +9,7 @@ Item {
     id: cell
 
     required property TableLine line
-    readonly property var spans: line.values
+    readonly property var spans: line.shown.values
     readonly property real weights: spans.reduce((sum, span) => sum + weightOf(span), 0)
 
     function weightOf(span: var): real {
@@ -18,12 +18,12 @@ Item {
 
     implicitHeight: column.height + 2 * Tokens.gap
     Accessible.role: Accessible.StaticText
-    Accessible.name: line.title + ", " + spans.map(span => span.name + " " + span.dates).join(", ")
+    Accessible.name: line.shown.title + ", " + spans.map(span => span.name + " " + span.dates).join(", ")
 
     RowSurface {
         anchors.fill: parent
-        first: cell.line.isFirst
-        last: cell.line.isLast
+        first: cell.line.shown.isFirst
+        last: cell.line.shown.isLast
     }
     Column {
         id: column
@@ -35,7 +35,7 @@ Item {
 
         Label {
             width: parent.width
-            text: cell.line.title
+            text: cell.line.shown.title
             color: Tokens.colors.textQuiet
             font.pixelSize: Tokens.textSmall
         }

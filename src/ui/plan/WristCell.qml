@@ -6,7 +6,7 @@ TextLine {
     id: cell
 
     Icon {
-        name: cell.line.value ?? ""
+        name: cell.line.shown.value ?? ""
         size: Tokens.icon
     }
 }

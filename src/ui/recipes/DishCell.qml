@@ -5,11 +5,11 @@ import Kesto
 TextLine {
     id: cell
 
-    readonly property string mark: line.value ?? ""
+    readonly property string mark: line.shown.value ?? ""
 
     pictureSize: Tokens.largeIcon
     framed: true
-    name: Texts.joined([line.title, mark])
+    name: Texts.joined([line.shown.title, mark])
 
     Badge {
         visible: cell.mark.length > 0

@@ -9,14 +9,14 @@ FocusScope {
 
     implicitHeight: Math.max(Tokens.productRowHeight, texts.height + Tokens.unit)
     Accessible.role: Accessible.ListItem
-    Accessible.name: line.value
+    Accessible.name: line.shown.value
     Accessible.focusable: true
     Accessible.onPressAction: touch.choose()
 
     RowSurface {
         anchors.fill: parent
-        first: cell.line.isFirst
-        last: cell.line.isLast
+        first: cell.line.shown.isFirst
+        last: cell.line.shown.isLast
         inset: texts.x
         color: touch.pressed && touch.containsMouse ? Tokens.colors.pressed : Tokens.colors.surface
     }
@@ -25,7 +25,7 @@ FocusScope {
 
         function choose(): void {
             cell.line.table.touched(cell.line);
-            cell.line.controller.selectRow(cell.line.section, cell.line.row);
+            cell.line.controller.selectRow(cell.line.shown.section, cell.line.shown.row);
         }
 
         anchors.fill: parent
@@ -36,7 +36,7 @@ FocusScope {
 
         x: Tokens.margin
         anchors.verticalCenter: parent.verticalCenter
-        name: cell.line.image
+        name: cell.line.shown.image
     }
     Column {
         id: texts
@@ -48,10 +48,10 @@ FocusScope {
 
         Label {
             width: parent.width
-            text: cell.line.title
+            text: cell.line.shown.title
             horizontalAlignment: Text.AlignLeft
         }
-        PhaseLetters { badges: cell.line.badges }
+        PhaseLetters { badges: cell.line.shown.badges }
     }
     FocusRing {
         anchors.margins: 2

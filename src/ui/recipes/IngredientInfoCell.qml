@@ -9,12 +9,12 @@ Item {
 
     implicitHeight: Math.max(Tokens.rowHeight, title.height + 2 * Tokens.unit)
     Accessible.role: Accessible.ListItem
-    Accessible.name: line.title
+    Accessible.name: line.shown.title
 
     RowSurface {
         anchors.fill: parent
-        first: cell.line.isFirst
-        last: cell.line.isLast
+        first: cell.line.shown.isFirst
+        last: cell.line.shown.isLast
         inset: title.x
     }
     Item {
@@ -27,12 +27,12 @@ Item {
 
         Icon {
             anchors.centerIn: parent
-            visible: cell.line.image.length > 0
-            name: cell.line.image
+            visible: cell.line.shown.image.length > 0
+            name: cell.line.shown.image
         }
         PhaseLetters {
             anchors.centerIn: parent
-            badges: cell.line.badges
+            badges: cell.line.shown.badges
         }
     }
     Label {
@@ -41,6 +41,6 @@ Item {
         x: sign.x + sign.width + Tokens.gap
         anchors.verticalCenter: parent.verticalCenter
         width: parent.width - x - Tokens.margin
-        text: cell.line.title
+        text: cell.line.shown.title
     }
 }

@@ -6,25 +6,22 @@ FocusScope {
     id: cell
 
     required property TableLine line
-    /*! The line that the field was entered for, and what it had: rows may change their places meanwhile. */
-    property string edited
-    property string before
     /*! Of the field: what the title leaves, and a good third beside a long one. */
     readonly property real room: Math.max(0.36 * width, width - title.x - title.implicitWidth - Tokens.gap - Tokens.unit)
-    readonly property color ink: line.struckThrough ? Tokens.colors.textDisabled : Tokens.colors.text
+    readonly property color ink: line.shown.struckThrough ? Tokens.colors.textDisabled : Tokens.colors.text
 
     implicitHeight: Math.max(Tokens.rowHeight + 2 * Tokens.half, title.height + 2 * Tokens.unit)
     Accessible.role: Accessible.CheckBox
-    Accessible.name: Texts.joined([line.title, line.text])
+    Accessible.name: Texts.joined([line.shown.title, line.shown.text])
     Accessible.checkable: true
-    Accessible.checked: line.checked
+    Accessible.checked: line.shown.checked
     Accessible.focusable: true
     Accessible.onPressAction: touch.choose()
 
     RowSurface {
         anchors.fill: parent
-        first: cell.line.isFirst
-        last: cell.line.isLast
+        first: cell.line.shown.isFirst
+        last: cell.line.shown.isLast
         inset: title.x
         color: touch.pressed && touch.containsMouse ? Tokens.colors.pressed : Tokens.colors.surface
     }
@@ -33,7 +30,7 @@ FocusScope {
 
         function choose(): void {
             cell.line.table.touched(cell.line);
-            cell.line.controller.selectRow(cell.line.section, cell.line.row);
+            cell.line.controller.selectRow(cell.line.shown.section, cell.line.shown.row);
         }
 
         anchors.fill: parent
@@ -45,8 +42,8 @@ FocusScope {
 
         x: Tokens.margin
         anchors.verticalCenter: parent.verticalCenter
-        name: cell.line.checked ? "Checked" : "Unchecked"
-        color: cell.line.checked ? Tokens.colors.accent : Tokens.colors.textDisabled
+        name: cell.line.shown.checked ? "Checked" : "Unchecked"
+        color: cell.line.shown.checked ? Tokens.colors.accent : Tokens.colors.textDisabled
     }
     Label {
         id: title
@@ -54,9 +51,9 @@ FocusScope {
         x: tick.x + tick.width + Tokens.gap
         anchors.verticalCenter: parent.verticalCenter
         width: field.x - Tokens.gap - x
-        text: cell.line.title
+        text: cell.line.shown.title
         color: cell.ink
-        font.strikeout: cell.line.struckThrough
+        font.strikeout: cell.line.shown.struckThrough
         horizontalAlignment: Text.AlignLeft
         maximumLineCount: 8
         elide: Text.ElideRight
@@ -68,35 +65,20 @@ FocusScope {
         anchors.rightMargin: Tokens.unit
         anchors.verticalCenter: parent.verticalCenter
         width: Math.max(Tokens.quantityWidth, Math.min(naturalWidth, cell.room))
-        value: cell.edited.length > 0 ? cell.before : cell.line.text
-        name: Texts.localized("Quantity") + ": " + cell.line.title
-        placeholderText: cell.line.placeholder
+        value: cell.line.shown.text
+        subject: cell.line.shown.id
+        name: Texts.localized("Quantity") + ": " + cell.line.shown.title
+        placeholderText: cell.line.shown.placeholder
         horizontalAlignment: TextInput.AlignHCenter
         color: cell.ink
-        font.strikeout: cell.line.struckThrough && length > 0
+        font.strikeout: cell.line.shown.struckThrough && length > 0
         activeFocusOnTab: cell.line.ListView.isCurrentItem || activeFocus
         // A long quantity is read from its beginning.
         onTextChanged: if (!activeFocus) cursorPosition = 0
-        onActiveFocusChanged: {
-            if (activeFocus)
-                return;
-            cursorPosition = 0;
-            commit();
-            cell.edited = "";
-        }
-        onBegan: {
-            cell.before = cell.line.text;
-            cell.edited = cell.line.value;
-            cell.line.table.fieldEntered(cell.line);
-        }
-        onCommitted: text => {
-            (cell.line.controller as CartViewController).endEditingCount(cell.edited, text);
-            cell.edited = "";
-        }
-        onFinished: {
-            cell.edited = "";
-            cell.line.table.fieldLeft();
-        }
+        onActiveFocusChanged: if (!activeFocus) cursorPosition = 0
+        onBegan: cell.line.table.fieldEntered(cell.line)
+        onCommitted: (subject, text) => cell.line.controller.endEditingText(cell.line.shown.section, subject, text)
+        onFinished: cell.line.table.fieldLeft()
     }
     FocusRing {
         anchors.margins: 2

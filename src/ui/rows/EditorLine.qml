@@ -5,14 +5,15 @@ import Kesto
 EditorRow {
     required property TableLine line
 
-    title: line.title
-    text: line.text
-    placeholder: line.placeholder
-    available: line.available
+    title: line.shown.title
+    text: line.shown.text
+    subject: line.shown.id
+    placeholder: line.shown.placeholder
+    available: line.shown.enabled
     current: line.current
-    first: line.isFirst
-    last: line.isLast
+    first: line.shown.isFirst
+    last: line.shown.isLast
     onBegan: line.table.fieldEntered(line)
-    onCommitted: text => line.controller.endEditingText(line.section, line.row, text)
+    onCommitted: (subject, text) => line.controller.endEditingText(line.shown.section, subject, text)
     onFinished: line.table.fieldLeft()
 }

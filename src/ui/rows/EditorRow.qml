@@ -1,20 +1,22 @@
 import QtQuick
 import Kesto
 
-/*! A field of several lines that grows with its text. Escape leaves it; what was typed stays. */
+/*! A field of several lines that grows with its text, edited as FieldEdit says. */
 FocusScope {
     id: row
 
     property string title
-    property string text
+    property alias text: edit.value
+    /*! The object that the text belongs to. */
+    property alias subject: edit.subject
     property string placeholder
     property bool available: true
     property bool first: true
     property bool last: true
     property bool current: false
-    property alias field: edit
+    readonly property alias field: area
 
-    signal committed(string text)
+    signal committed(string subject, string text)
     signal began
     signal finished
 
@@ -27,7 +29,7 @@ FocusScope {
     }
     MouseArea {
         anchors.fill: parent
-        onClicked: edit.forceActiveFocus(Qt.MouseFocusReason)
+        onClicked: area.forceActiveFocus(Qt.MouseFocusReason)
     }
     Column {
         id: column
@@ -45,11 +47,11 @@ FocusScope {
             font.pixelSize: Tokens.textSmall
         }
         TextEdit {
-            id: edit
+            id: area
 
             width: parent.width
             focus: true
-            text: row.text
+            text: edit.current
             textFormat: TextEdit.PlainText
             wrapMode: TextEdit.Wrap
             readOnly: !row.available
@@ -64,26 +66,36 @@ FocusScope {
             Accessible.multiLine: true
             onActiveFocusChanged: {
                 if (activeFocus) {
+                    edit.enter();
                     row.began();
                 } else {
-                    row.committed(text);
-                    text = Qt.binding(() => row.text);
+                    edit.commit();
                 }
             }
-            Keys.onEscapePressed: row.finished()
+            onTextChanged: if (activeFocus && text !== edit.current) edit.typed = true
+            Keys.onEscapePressed: {
+                edit.revert();
+                row.finished();
+            }
             Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
             Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
 
             Label {
                 width: parent.width
-                visible: edit.length === 0 && edit.preeditText.length === 0
+                visible: area.length === 0 && area.preeditText.length === 0
                 text: row.placeholder
                 color: Tokens.colors.textQuiet
             }
         }
     }
+    FieldEdit {
+        id: edit
+
+        field: area
+        onCommitted: (subject, text) => row.committed(subject, text)
+    }
     FocusRing {
         anchors.margins: 2
-        shown: row.current || edit.activeFocus
+        shown: row.current || area.activeFocus
     }
 }

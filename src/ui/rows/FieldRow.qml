@@ -6,17 +6,19 @@ ListRow {
     id: row
 
     property string text
+    /*! The object that the text belongs to. */
+    property string subject
     property string placeholder
     property string unit
-    /*! The room for the unit; where fields stand one under the other, that of the widest. */
+    /*! The width for the unit; where fields stand one under the other, that of the widest. */
     property real unitWidth: naturalUnitWidth
     readonly property real naturalUnitWidth: unit.implicitWidth
     property int keyboard: Keyboard.Text
     readonly property alias field: field
 
-    signal committed(string text)
+    signal committed(string subject, string text)
     signal began
-    /*! As that of a field. */
+    /*! The user left the field by Enter, or else by Escape. */
     signal finished(bool entered)
 
     selectable: true
@@ -36,6 +38,7 @@ ListRow {
                 : Math.min(natural, row.width - 2 * Tokens.margin - unit.width - Tokens.unit)
             enabled: row.available
             value: row.text
+            subject: row.subject
             name: Texts.joined([row.title, row.unit])
             placeholderText: row.placeholder
             horizontalAlignment: row.title.length === 0 ? TextInput.AlignLeft : TextInput.AlignRight
@@ -45,7 +48,7 @@ ListRow {
                 : row.keyboard === Keyboard.Number ? Qt.ImhDigitsOnly
                 : row.keyboard === Keyboard.Email ? Qt.ImhEmailCharactersOnly : Qt.ImhNone
             activeFocusOnTab: false
-            onCommitted: text => row.committed(text)
+            onCommitted: (subject, text) => row.committed(subject, text)
             onBegan: row.began()
             onFinished: entered => row.finished(entered)
         }

@@ -5,7 +5,7 @@ import Kesto
 SectionHeader {
     required property TableLine line
 
-    text: line.title
-    footer: line.type === TableModel.Footer
+    text: line.shown.title
+    footer: line.shown.isFooter
     first: line.index === 0
 }

@@ -25,11 +25,11 @@ Item {
 
         x: tools.line.table.inset
         y: tools.line.room.y + (tools.line.room.height - height) / 2
-        active: tools.line.editing && tools.line.canDelete
+        active: tools.line.editing && tools.line.shown.canDelete
         sourceComponent: IconButton {
             picture: "minus_circle"
             color: Tokens.colors.destructive
-            name: Texts.localized("Delete") + " " + tools.line.title
+            name: Texts.localized("Delete") + " " + tools.line.shown.title
             activeFocusOnTab: false
             onClicked: tools.line.deleteShown = !tools.line.deleteShown
         }
@@ -40,7 +40,7 @@ Item {
         width: tools.line.room.width
         height: tools.line.room.height
         clip: tools.line.sliding.x < 0
-        active: tools.line.canDelete
+        active: tools.line.shown.canDelete
         sourceComponent: deleting
         onActiveChanged: if (!active) tools.line.sliding.x = 0
     }
@@ -50,9 +50,9 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: tools.line.table.inset
         y: tools.line.room.y + (tools.line.room.height - height) / 2
-        active: tools.line.editing && tools.line.canMove
+        active: tools.line.editing && tools.line.shown.canMove
         sourceComponent: ReorderHandle {
-            name: tools.line.title
+            name: tools.line.shown.title
             onLifted: tools.line.table.lifted(tools.line)
             onCarried: by => tools.line.table.carried(tools.line, by)
             onDropped: tools.line.table.dropped(tools.line)

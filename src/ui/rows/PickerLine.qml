@@ -5,9 +5,9 @@ import Kesto
 PickerRow {
     required property TableLine line
 
-    picker: line.picker as Picker
-    name: line.title
-    first: line.isFirst
-    last: line.isLast
+    picker: line.shown.picker as Picker
+    name: line.shown.title
+    first: line.shown.isFirst
+    last: line.shown.isLast
     Keys.onEscapePressed: line.table.fieldLeft()
 }

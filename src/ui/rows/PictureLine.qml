@@ -5,16 +5,16 @@ import Kesto
 PictureRow {
     required property TableLine line
 
-    picture: line.image
-    title: line.title
-    subtitle: line.subtitle
-    available: line.available
-    selectable: line.selectable
+    picture: line.shown.image
+    title: line.shown.title
+    subtitle: line.shown.subtitle
+    available: line.shown.enabled
+    selectable: line.shown.selectable
     current: line.current
-    first: line.isFirst
-    last: line.isLast
+    first: line.shown.isFirst
+    last: line.shown.isLast
     onActivated: {
         line.table.touched(line);
-        line.controller.selectRow(line.section, line.row);
+        line.controller.selectRow(line.shown.section, line.shown.row);
     }
 }

@@ -5,14 +5,14 @@ import Kesto
 SwitchRow {
     required property TableLine line
 
-    picture: line.image
-    title: line.title
-    subtitle: line.subtitle
+    picture: line.shown.image
+    title: line.shown.title
+    subtitle: line.shown.subtitle
     titleColor: line.ink
-    available: line.available
+    available: line.shown.enabled
     current: line.current
-    first: line.isFirst
-    last: line.isLast
-    on: line.on
-    onTurned: on => line.controller.turnSwitch(line.section, line.row, on)
+    first: line.shown.isFirst
+    last: line.shown.isLast
+    on: line.shown.on
+    onTurned: on => line.controller.turnSwitch(line.shown.section, line.shown.row, on)
 }

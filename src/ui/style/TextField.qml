@@ -1,16 +1,14 @@
 import QtQuick
 import Kesto
 
-/*!
-    One line of text. Enter and leaving the field commit what was typed; Escape brings back what was there.
-    The text that is shown is \a value until the user types.
-*/
+/*! One line of text, edited as FieldEdit says. Enter leaves the field. */
 TextInput {
     id: control
 
-    /*! What the field holds outside of an edit. */
-    property string value
-    /*! For those who do not see the label beside it. */
+    /*! What the field shows until the user types, and the object that this belongs to. */
+    property alias value: edit.value
+    property alias subject: edit.subject
+    /*! For screen readers; unless given, the placeholder. */
     property string name
     property string placeholderText
     property color fill: Tokens.colors.field
@@ -19,28 +17,21 @@ TextInput {
     /*! What the text and the placeholder need. */
     readonly property real naturalWidth: Math.max(contentWidth, hint.implicitWidth) + leftPadding + rightPadding + Tokens.half
     readonly property real above: Math.max(Tokens.half, (Tokens.rowHeight - contentHeight) / 2)
-    /*! Something was typed that is not committed yet. */
-    property bool typed: false
 
-    /*! The user typed this, be it what was there before, and is done. */
-    signal committed(string text)
+    /*! The user typed this, be it what was there before, and left the field. */
+    signal committed(string subject, string text)
     signal began
-    /*! The field has nothing more to do with the keys: it was left by Enter, or else by Escape. */
+    /*! The user left the field by Enter, or else by Escape. */
     signal finished(bool entered)
 
     function commit(): void {
-        if (!typed)
-            return;
-        typed = false;
-        committed(text);
-        text = Qt.binding(() => control.value);
+        edit.commit();
     }
     function revert(): void {
-        typed = false;
-        text = Qt.binding(() => control.value);
+        edit.revert();
     }
 
-    text: value
+    text: edit.current
     font.family: Tokens.family
     font.pixelSize: Tokens.textBody
     color: enabled ? Tokens.colors.text : Tokens.colors.textDisabled
@@ -59,9 +50,10 @@ TextInput {
     Accessible.name: name.length > 0 ? name : placeholderText
     Accessible.description: placeholderText
 
-    onTextEdited: typed = true
+    onTextEdited: edit.typed = true
     onActiveFocusChanged: {
         if (activeFocus) {
+            edit.enter();
             selectAll();
             began();
         } else {
@@ -81,6 +73,12 @@ TextInput {
         finished(true);
     }
 
+    FieldEdit {
+        id: edit
+
+        field: control
+        onCommitted: (subject, text) => control.committed(subject, text)
+    }
     HoverHandler { cursorShape: Qt.IBeamCursor }
     Rectangle {
         anchors.fill: parent
