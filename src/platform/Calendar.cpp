@@ -113,7 +113,10 @@ QDateTime Calendar::dateByAdding(int count, Unit unit, const QDateTime &instant)
 {
     if (!instant.isValid() || count == 0)
         return instant.toUTC();
-    const QDateTime clock = localClock(zone_, instant);
+    QDateTime clock = localClock(zone_, instant);
+    // Otherwise every later day would be reached an hour after its beginning.
+    if (clock.time() != QTime(0, 0) && startOfDay(clock.date()) == instant)
+        clock.setTime(QTime(0, 0));
     switch (unit) {
     case Unit::Year:
         return this->instant(clock.date().addYears(count), clock.time());

@@ -39,10 +39,11 @@ public:
     [[nodiscard]] QDate firstDayOfWeek(QDate day) const;
 
     /// The instant a number of units away with the same time of day; a day that the target month lacks becomes its
-    /// last.
+    /// last. The beginning of a day without midnight counts as midnight, so the beginnings of days lead to beginnings.
     [[nodiscard]] QDateTime dateByAdding(int count, Unit unit, const QDateTime &instant) const;
 
-    /// The largest number of whole units (toward zero) that can be added to `from` without passing `to`.
+    /// The largest number of whole units (toward zero) that can be added to `from` without passing `to`. Between the
+    /// beginnings of two days that is the number of civil days, whatever the clocks do.
     [[nodiscard]] int wholeUnits(Unit unit, const QDateTime &from, const QDateTime &to) const;
 
     bool operator==(const Calendar &) const = default;

@@ -1,21 +1,16 @@
-#include "platform/PropertyList.h"
-
 #include "platform/AtomicFile.h"
 #include "platform/Log.h"
-#include "platform/PropertyListScanner.h"
-#include "platform/Utf8.h"
+#include "platform/PropertyList.h"
 
 #include <QDateTime>
 #include <QFile>
 
 #include <algorithm>
 #include <charconv>
-#include <iterator>
-#include <map>
-#include <string>
-#include <string_view>
-#include <unordered_map>
+#include <cstring>
 #include <utility>
+
+#include <pugixml.hpp>
 
 namespace kesto::PropertyList
 {
@@ -25,271 +20,266 @@ namespace
 
 constexpr int deepestNesting = 256;
 
-std::string_view trimmed(std::string_view text)
+struct Fault
 {
-    constexpr std::string_view blanks = " \t\r\n";
-    const size_t first = text.find_first_not_of(blanks);
-    return first == std::string_view::npos ? std::string_view()
-                                           : text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
-QString toText(std::string_view utf8) { return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())); }
-
-// Enough of a text to find it by.
-QString shortened(std::string_view utf8) { return toText(utf8.substr(0, 200)).left(40); }
-
-// Whole text only: what follows the number makes it no number.
-template <class Number>
-bool readNumber(std::string_view text, Number &number)
-{
-    text = trimmed(text);
-    if (text.starts_with('+') && !text.starts_with("+-"))
-        text.remove_prefix(1); // from_chars() knows no plus
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
-    return result.ec == std::errc() && result.ptr == text.data() + text.size();
-}
-
-bool readDate(std::string_view text, QDateTime &date)
-{
-    text = trimmed(text);
-    constexpr std::string_view shape = "0000-00-00T00:00:00Z";
-    if (text.size() != shape.size())
-        return false;
-    for (size_t i = 0; i < shape.size(); ++i) {
-        if (shape[i] == '0' ? (text[i] < '0' || text[i] > '9') : text[i] != shape[i])
-            return false;
-    }
-    const auto number = [&](size_t position, size_t length) {
-        int value = 0;
-        readNumber(text.substr(position, length), value);
-        return value;
-    };
-    const QTime time(number(11, 2), number(14, 2), number(17, 2));
-    date = QDateTime(QDate(number(0, 4), number(5, 2), number(8, 2)), time, Qt::UTC);
-    return date.isValid() && time.isValid(); // a date takes a wrong time for midnight
-}
-
-// Turns the elements into values. The first fault ends it.
-class Reader
-{
-public:
-    explicit Reader(std::string_view bytes)
-        : bytes_(bytes)
-        , scanner_(bytes)
-    {
-    }
-
-    [[nodiscard]] const PropertyListScanner::Fault &fault() const { return scanner_.fault(); }
-
-    bool readDocument(QVariant &value)
-    {
-        Item root;
-        const Found found = scanner_.next({}, root);
-        if (found == Found::Fault)
-            return false;
-        if (found == Found::End || bytes_.find('<') == std::string_view::npos)
-            return fails(root, QStringLiteral("No document element found"));
-        if (found == Found::Text)
-            return fails(root, QStringLiteral("text outside of the root element"));
-        if (root.name != "plist")
-            return fails(root, QStringLiteral("the root element is not plist"));
-
-        bool holdsValue = false;
-        if (!readRoot(root, value, holdsValue))
-            return false;
-        Item other;
-        switch (scanner_.next({}, other)) {
-        case Found::Fault:
-            return false;
-        case Found::Element:
-            return fails(other, QStringLiteral("a second root element"));
-        case Found::Text:
-            return fails(other, QStringLiteral("text outside of the root element"));
-        case Found::End:
-            break;
-        }
-        return holdsValue || fails(root, QStringLiteral("plist without a value"));
-    }
-
-private:
-    using Item = PropertyListScanner::Item;
-    using Found = PropertyListScanner::Found;
-
-    bool fails(const Item &item, QString why) { return scanner_.fails(item.offset, std::move(why)); }
-
-    bool fails(const Item &item, const char *why, std::string_view text)
-    {
-        return fails(item, QString::fromLatin1(why).arg(shortened(text)));
-    }
-
-    // The next element inside of another; text there is a fault.
-    Found nextChild(const Item &parent, bool first, Item &child)
-    {
-        if (parent.selfClosing)
-            return Found::End;
-        const Found found = scanner_.next(parent.name, child);
-        if (found != Found::Text)
-            return found;
-        if (first)
-            fails(parent, "text between the elements of %1", parent.name);
-        else
-            fails(child, "text where a value should be: %1", child.text);
-        return Found::Fault;
-    }
-
-    bool readRoot(const Item &root, QVariant &value, bool &holdsValue)
-    {
-        Item child;
-        Found found = nextChild(root, true, child);
-        if (found == Found::Element) {
-            holdsValue = true;
-            if (!readValue(child, 1, value))
-                return false;
-            found = nextChild(root, false, child);
-            if (found == Found::Element)
-                return fails(child, QStringLiteral("plist with more than one value"));
-        }
-        return found == Found::End;
-    }
-
-    bool readArray(const Item &array, int depth, QVariant &value)
-    {
-        QVariantList list;
-        Item item;
-        Found found = nextChild(array, true, item);
-        for (; found == Found::Element; found = nextChild(array, false, item)) {
-            if (list.isEmpty())
-                list.reserve(16);
-            // Most of what lists hold; made in place.
-            if (item.name == "string" && depth < deepestNesting) {
-                QStringView text;
-                if (!scanner_.readText(item, text))
-                    return false;
-                list.emplace_back(QString(text.data(), text.size()));
-            } else if (!readValue(item, depth + 1, list.emplace_back())) {
-                return false;
-            }
-        }
-        value = list;
-        return found == Found::End;
-    }
-
-    bool readDictionary(const Item &dictionary, int depth, QVariant &value)
-    {
-        std::map<QString, QVariant> map;
-        Item key;
-        Item item;
-        Found found = nextChild(dictionary, true, key);
-        for (; found == Found::Element; found = nextChild(dictionary, false, key)) {
-            if (key.name != "key")
-                return fails(key, QStringLiteral("a value without a key"));
-            std::string_view bytes;
-            if (!scanner_.readBytes(key, bytes))
-                return false;
-            const QString *const text = keyText(bytes);
-            if (text == nullptr)
-                return fails(key, QStringLiteral("not UTF-8 text"));
-            found = nextChild(dictionary, false, item);
-            if (found == Found::Fault)
-                return false;
-            if (found == Found::End || item.name == "key")
-                return fails(key, "the key %1 has no value", bytes);
-            // Files that programs write are sorted by key. Of equal keys the last one counts.
-            if (!readValue(item, depth + 1, map.try_emplace(map.end(), *text)->second))
-                return false;
-        }
-        value = QVariantMap(std::move(map));
-        return found == Found::End;
-    }
-
-    // Dictionaries of a list repeat their keys; each text is made once. Nothing when the bytes are no text.
-    const QString *keyText(std::string_view key)
-    {
-        const auto found = keys_.find(key);
-        if (found != keys_.end())
-            return &found->second;
-        if (firstByteOutsideUtf8(key) >= 0)
-            return nullptr;
-        return &keys_.emplace(std::string(key), toText(key)).first->second;
-    }
-
-    bool readValue(const Item &element, int depth, QVariant &value)
-    {
-        if (depth > deepestNesting)
-            return fails(element, QStringLiteral("values nested deeper than %1").arg(deepestNesting));
-        if (element.name == "string") {
-            QStringView text;
-            if (!scanner_.readText(element, text))
-                return false;
-            value = QString(text.data(), text.size());
-            return true;
-        }
-        if (element.name == "array")
-            return readArray(element, depth, value);
-        if (element.name == "dict")
-            return readDictionary(element, depth, value);
-        return readScalar(element, value);
-    }
-
-    bool readScalar(const Item &element, QVariant &value)
-    {
-        const std::string_view name = element.name;
-        constexpr std::string_view known[] = {"true", "false", "integer", "real", "date", "data"};
-        if (name == "key")
-            return fails(element, QStringLiteral("a key outside a dictionary"));
-        if (std::find(std::begin(known), std::end(known), name) == std::end(known))
-            return fails(element, "%1 is no element of a property list", name);
-        // What these take is ASCII, so that bytes outside of UTF-8 fail with the rest.
-        std::string_view text;
-        if (!scanner_.readBytes(element, text))
-            return false;
-        if (name == "data")
-            return readData(element, text, value);
-        if (name == "integer") {
-            qint64 number = 0;
-            if (!readNumber(text, number))
-                return fails(element, "not a whole number of 64 bits: %1", text);
-            value = number;
-        } else if (name == "real") {
-            double number = 0;
-            if (!readNumber(text, number))
-                return fails(element, "not a number: %1", text);
-            value = number;
-        } else if (name == "date") {
-            QDateTime date;
-            if (!readDate(text, date))
-                return fails(element, "not a date: %1", text);
-            value = date;
-        } else {
-            if (!trimmed(text).empty())
-                return fails(element, "%1 with content", name);
-            value = name == "true";
-        }
-        return true;
-    }
-
-    bool readData(const Item &element, std::string_view text, QVariant &value)
-    {
-        QByteArray encoded(text.data(), static_cast<qsizetype>(text.size()));
-        encoded.removeIf([](char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; });
-        const auto decoded = QByteArray::fromBase64Encoding(encoded, QByteArray::AbortOnBase64DecodingErrors);
-        // What is cut off in the middle of four characters decodes, but something is missing.
-        if (!decoded || encoded.size() % 4 != 0)
-            return fails(element, QStringLiteral("not base64"));
-        value = decoded.decoded;
-        return true;
-    }
-
-    struct Hash
-    {
-        using is_transparent = void;
-        size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
-    };
-
-    const std::string_view bytes_;
-    PropertyListScanner scanner_;
-    std::unordered_map<std::string, QString, Hash, std::equal_to<>> keys_;
+    ptrdiff_t offset = 0; // in the bytes
+    QString reason;
 };
+
+template <class T>
+using Read = tl::expected<T, Fault>;
+
+tl::unexpected<Fault> fault(const pugi::xml_node &node, QString reason)
+{
+    return tl::unexpected(Fault{std::max<ptrdiff_t>(node.offset_debug(), 0), std::move(reason)});
+}
+
+tl::unexpected<Fault> fault(const pugi::xml_node &node, const char *reason, const QString &text)
+{
+    return fault(node, QString::fromLatin1(reason).arg(text.left(40)));
+}
+
+QString nameOf(const pugi::xml_node &node) { return QString::fromUtf8(node.name()); }
+
+bool is(const pugi::xml_node &node, const char *name) { return std::strcmp(node.name(), name) == 0; }
+
+// The node, or the first one after it that is no white space.
+pugi::xml_node afterSpace(pugi::xml_node node)
+{
+    while (node.type() == pugi::node_pcdata && node.value()[std::strspn(node.value(), " \t\r\n")] == '\0')
+        node = node.next_sibling();
+    return node;
+}
+
+// The element there; null at the end. Text is a fault.
+Read<pugi::xml_node> elementFrom(pugi::xml_node node)
+{
+    node = afterSpace(node);
+    if (node && node.type() != pugi::node_element)
+        return fault(node, "text where a value should be: %1", QString::fromUtf8(node.value()).trimmed());
+    return node;
+}
+
+// Appends a text with its references replaced. Not left to pugixml, which keeps unknown ones as they are written, ends
+// the text at "&#0;" and makes bytes that are no UTF-8 of other numbers that stand for no character.
+bool appendUnescaped(const QString &text, QString &result)
+{
+    constexpr std::pair<QStringView, char32_t> names[] = {
+        {u"amp", U'&'}, {u"lt", U'<'}, {u"gt", U'>'}, {u"quot", U'"'}, {u"apos", U'\''}};
+    qsizetype done = 0;
+    for (qsizetype at = text.indexOf(u'&'); at >= 0; at = text.indexOf(u'&', done)) {
+        const qsizetype end = std::max(text.indexOf(u';', at), at + 1);
+        const QStringView name = QStringView(text).sliced(at + 1, end - at - 1);
+        char32_t character = 0;
+        if (name.startsWith(u'#')) {
+            const bool hexadecimal = name.startsWith(u"#x");
+            const QStringView digits = name.sliced(hexadecimal ? 2 : 1);
+            if (std::all_of(digits.begin(), digits.end(), [](QChar c) { return c.isLetterOrNumber(); }))
+                character = digits.toUInt(nullptr, hexadecimal ? 16 : 10);
+        } else if (const auto *const found = std::find_if(std::begin(names), std::end(names),
+                                                          [&](const auto &one) { return one.first == name; });
+                   found != std::end(names)) {
+            character = found->second;
+        }
+        if (character == 0 || character > QChar::LastValidCodePoint || QChar::isSurrogate(character))
+            return false;
+        result += QStringView(text).sliced(done, at - done);
+        result += QChar::fromUcs4(character);
+        done = end + 1;
+    }
+    result += QStringView(text).sliced(done);
+    return true;
+}
+
+Read<QString> textOf(const pugi::xml_node &element)
+{
+    QString result;
+    for (const pugi::xml_node &part : element) {
+        const QString text = QString::fromUtf8(part.value());
+        if (part.type() == pugi::node_element)
+            return fault(part, "an element inside %1", nameOf(element));
+        if (part.type() == pugi::node_cdata)
+            result += text;
+        else if (!appendUnescaped(text, result))
+            return fault(part, "a reference to no character in: %1", text.trimmed());
+    }
+    return result.isNull() ? QLatin1String("") : result;
+}
+
+Read<QVariant> readReal(const pugi::xml_node &element, const QString &text)
+{
+    const QByteArray digits = text.trimmed().toLatin1();
+    // from_chars() knows no plus.
+    const char *const begin = digits.cbegin() + (digits.startsWith('+') && !digits.startsWith("+-") ? 1 : 0);
+    double number = 0;
+    const auto result = std::from_chars(begin, digits.cend(), number);
+    if (result.ec != std::errc() || result.ptr != digits.cend())
+        return fault(element, "not a number: %1", text);
+    return number;
+}
+
+Read<QVariant> readDate(const pugi::xml_node &element, const QString &text)
+{
+    const QDateTime date = QDateTime::fromString(text.trimmed(), Qt::ISODate);
+    // The one form of all that ISO 8601 allows.
+    if (!date.isValid() || date.timeSpec() != Qt::UTC || date.toString(Qt::ISODate) != text.trimmed())
+        return fault(element, "not a date: %1", text);
+    return date;
+}
+
+Read<QVariant> readData(const pugi::xml_node &element, const QString &text)
+{
+    QByteArray encoded = text.toLatin1();
+    encoded.removeIf([](char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; });
+    const auto decoded = QByteArray::fromBase64Encoding(encoded, QByteArray::AbortOnBase64DecodingErrors);
+    // What is cut off in the middle of four characters decodes, but something is missing.
+    if (!decoded || encoded.size() % 4 != 0)
+        return fault(element, QStringLiteral("not base64"));
+    return decoded.decoded;
+}
+
+Read<QVariant> readScalar(const pugi::xml_node &element)
+{
+    const Read<QString> text = textOf(element);
+    if (!text)
+        return tl::unexpected(text.error());
+    if (is(element, "string"))
+        return *text;
+    if (is(element, "integer")) {
+        bool whole = false;
+        const qint64 number = text->trimmed().toLongLong(&whole);
+        if (!whole)
+            return fault(element, "not a whole number of 64 bits: %1", *text);
+        return number;
+    }
+    if (is(element, "real"))
+        return readReal(element, *text);
+    if (is(element, "date"))
+        return readDate(element, *text);
+    if (is(element, "data"))
+        return readData(element, *text);
+    if (is(element, "key"))
+        return fault(element, QStringLiteral("a key outside a dictionary"));
+    if (!is(element, "true") && !is(element, "false"))
+        return fault(element, "%1 is no element of a property list", nameOf(element));
+    if (!text->trimmed().isEmpty())
+        return fault(element, "%1 with content", nameOf(element));
+    return is(element, "true");
+}
+
+Read<QVariant> readValue(const pugi::xml_node &element, int depth);
+
+Read<QVariant> readArray(const pugi::xml_node &array, int depth)
+{
+    QVariantList list;
+    Read<pugi::xml_node> item = elementFrom(array.first_child());
+    for (; item && *item; item = elementFrom(item->next_sibling())) {
+        Read<QVariant> value = readValue(*item, depth + 1);
+        if (!value)
+            return value;
+        list.append(std::move(*value));
+    }
+    if (!item)
+        return tl::unexpected(item.error());
+    return list;
+}
+
+Read<QVariant> readDictionary(const pugi::xml_node &dictionary, int depth)
+{
+    QVariantMap map;
+    Read<pugi::xml_node> key = elementFrom(dictionary.first_child());
+    while (key && *key) {
+        if (!is(*key, "key"))
+            return fault(*key, QStringLiteral("a value without a key"));
+        const Read<QString> name = textOf(*key);
+        if (!name)
+            return tl::unexpected(name.error());
+        const Read<pugi::xml_node> item = elementFrom(key->next_sibling());
+        if (!item)
+            return tl::unexpected(item.error());
+        if (!*item || is(*item, "key"))
+            return fault(*key, "the key %1 has no value", *name);
+        Read<QVariant> value = readValue(*item, depth + 1);
+        if (!value)
+            return value;
+        map.insert(map.cend(), *name, std::move(*value)); // of equal keys the last one counts
+        key = elementFrom(item->next_sibling());
+    }
+    if (!key)
+        return tl::unexpected(key.error());
+    return map;
+}
+
+Read<QVariant> readValue(const pugi::xml_node &element, int depth)
+{
+    if (depth > deepestNesting)
+        return fault(element, QStringLiteral("values nested deeper than %1").arg(deepestNesting));
+    if (is(element, "array"))
+        return readArray(element, depth);
+    if (is(element, "dict"))
+        return readDictionary(element, depth);
+    return readScalar(element);
+}
+
+Read<QVariant> readDocument(const pugi::xml_document &document)
+{
+    pugi::xml_node first = afterSpace(document.first_child());
+    if (first.type() == pugi::node_doctype) {
+        if (std::strchr(first.value(), '[') != nullptr)
+            return fault(first, QStringLiteral("a document type with declarations"));
+        first = first.next_sibling();
+    }
+    const Read<pugi::xml_node> root = elementFrom(first);
+    if (!root)
+        return tl::unexpected(root.error());
+    if (!is(*root, "plist"))
+        return fault(*root, QStringLiteral("the root element is not plist"));
+    const Read<pugi::xml_node> value = elementFrom(root->first_child());
+    const Read<pugi::xml_node> second = value && *value ? elementFrom(value->next_sibling()) : value;
+    if (!second)
+        return tl::unexpected(second.error());
+    if (!*value)
+        return fault(*root, QStringLiteral("plist without a value"));
+    if (*second)
+        return fault(*second, QStringLiteral("plist with more than one value"));
+    const Read<pugi::xml_node> other = elementFrom(root->next_sibling());
+    if (!other)
+        return tl::unexpected(other.error());
+    if (*other)
+        return fault(*other, QStringLiteral("a second root element"));
+    return readValue(*value, 1);
+}
+
+// No byte of another character is a line feed.
+ptrdiff_t firstLineOutsideUtf8(const QByteArray &bytes)
+{
+    qsizetype start = 0;
+    for (const QByteArray &line : bytes.split('\n')) {
+        if (!line.isValidUtf8() || line.contains('\0'))
+            break;
+        start += line.size() + 1;
+    }
+    return start;
+}
+
+Read<QVariant> readBytes(const QByteArray &bytes)
+{
+    if (bytes.isEmpty())
+        return tl::unexpected(Fault{0, QStringLiteral("empty")});
+    if (bytes.startsWith("bplist"))
+        return tl::unexpected(Fault{0, QStringLiteral("a binary property list")});
+    if (!bytes.isValidUtf8() || bytes.contains('\0'))
+        return tl::unexpected(Fault{firstLineOutsideUtf8(bytes), QStringLiteral("not UTF-8 text")});
+    pugi::xml_document document;
+    // As a fragment, so that text outside of the root element is seen.
+    const pugi::xml_parse_result parsed = document.load_buffer(
+        bytes.constData(), static_cast<size_t>(bytes.size()),
+        pugi::parse_cdata | pugi::parse_eol | pugi::parse_ws_pcdata | pugi::parse_doctype | pugi::parse_fragment,
+        pugi::encoding_utf8);
+    if (!parsed)
+        return tl::unexpected(Fault{parsed.offset, QString::fromLatin1(parsed.description())});
+    return readDocument(document);
+}
 
 tl::unexpected<Error> refused(const QString &source, qsizetype line, QString reason)
 {
@@ -301,24 +291,11 @@ tl::unexpected<Error> refused(const QString &source, qsizetype line, QString rea
 
 Result<QVariant> parse(const QByteArray &bytes, const QString &source)
 {
-    const auto lineOf = [&](ptrdiff_t offset) {
-        const auto end = bytes.begin() + std::clamp<qsizetype>(offset, 0, bytes.size());
-        return std::count(bytes.begin(), end, '\n') + 1;
-    };
-    const std::string_view content(bytes.constData(), static_cast<size_t>(bytes.size()));
-    if (bytes.isEmpty())
-        return refused(source, 1, QStringLiteral("empty"));
-    if (bytes.startsWith("bplist"))
-        return refused(source, 1, QStringLiteral("a binary property list"));
-
-    Reader reader(content);
-    QVariant value;
-    if (reader.readDocument(value))
-        return value;
-    // Bytes of another encoding look like all kinds of faults.
-    if (const ptrdiff_t place = firstByteOutsideUtf8(content); place >= 0)
-        return refused(source, lineOf(place), QStringLiteral("not UTF-8 text"));
-    return refused(source, lineOf(reader.fault().offset), reader.fault().reason);
+    Read<QVariant> value = readBytes(bytes);
+    if (value)
+        return std::move(*value);
+    const qsizetype before = std::clamp<qsizetype>(value.error().offset, 0, bytes.size());
+    return refused(source, bytes.first(before).count('\n') + 1, value.error().reason);
 }
 
 Result<QVariant> read(const QString &path)

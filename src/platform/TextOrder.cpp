@@ -17,6 +17,12 @@ int rank(QChar unit)
         return code;
     return unit.isSurrogate() ? code + 0x2000 : code - 0x800;
 }
+
+QString searchForm(const QString &text)
+{
+    // Composed first, so that ё is one character.
+    return text.normalized(QString::NormalizationForm_C).toCaseFolded().replace(u'ё', u'е');
+}
 } // namespace
 
 int compareLiterally(QStringView left, QStringView right)
@@ -31,5 +37,7 @@ int compareCaseInsensitively(const QString &left, const QString &right)
 {
     return compareLiterally(left.toCaseFolded(), right.toCaseFolded());
 }
+
+bool matchesSearch(const QString &text, const QString &wanted) { return searchForm(text).contains(searchForm(wanted)); }
 
 } // namespace kesto

@@ -12,4 +12,8 @@ namespace kesto
 /// The same without regard to case.
 [[nodiscard]] int compareCaseInsensitively(const QString &left, const QString &right);
 
+/// Whether a text holds what a user searches for: without regard to case, and with ё and е as one letter, because most
+/// people type only the second.
+[[nodiscard]] bool matchesSearch(const QString &text, const QString &wanted);
+
 } // namespace kesto

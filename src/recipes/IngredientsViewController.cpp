@@ -3,6 +3,7 @@
 #include "components/AlertCenter.h"
 #include "components/PopoverController.h"
 #include "platform/StringTables.h"
+#include "platform/TextOrder.h"
 #include "recipes/IngredientsInfoViewController.h"
 #include "store/CoreDataManager.h"
 #include "util/SKHelpManager.h"
@@ -115,7 +116,7 @@ QVariantList IngredientsViewController::filtedItemsForPeriod(int period) const
 QVariantList IngredientsViewController::searchWithString(const QString &text, int) const
 {
     return itemsWhere(currentPeriod() == 0 ? content() : currentItems(),
-                      [&](const QVariant &product) { return nameOf(product).contains(text, Qt::CaseInsensitive); });
+                      [&](const QVariant &product) { return matchesSearch(nameOf(product), text); });
 }
 
 void IngredientsViewController::didSelectRow(const IndexPath &path, const RowId &)

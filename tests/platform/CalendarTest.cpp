@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <set>
+#include <tuple>
 
 using namespace kesto;
 
@@ -175,6 +177,40 @@ TEST(Calendar, CountsWholeUnitsTowardZero)
         EXPECT_EQ(in("Europe/Berlin").wholeUnits(c.unit, utc(c.from), utc(c.to)), c.count);
     }
     EXPECT_EQ(in("UTC").wholeUnits(Day, QDateTime(), utc("2024-01-01T00:00:00Z")), 0);
+}
+
+TEST(Calendar, CountsCivilDaysAroundEveryChangeOfTheClocks)
+{
+    using enum Calendar::Unit;
+    const QDateTime first(QDate(2000, 1, 1), QTime(0, 0), Qt::UTC);
+    const QDateTime last(QDate(2041, 1, 1), QTime(0, 0), Qt::UTC);
+    std::set<std::tuple<int, int, QTime>> seen; // the same change takes place in many zones and years
+    for (const QByteArray &id : QTimeZone::availableTimeZoneIds()) {
+        const QTimeZone zone(id);
+        const Calendar calendar(zone, Qt::Monday);
+        for (const QTimeZone::OffsetData &change : zone.transitions(first, last)) {
+            const int before = zone.offsetFromUtc(change.atUtc.addSecs(-1));
+            if (!seen.emplace(before, change.offsetFromUtc, calendar.timeOf(change.atUtc)).second)
+                continue;
+            const QDate around = calendar.dayOf(change.atUtc);
+            for (QDate one = around.addDays(-2); one <= around.addDays(2); one = one.addDays(1)) {
+                const QDateTime start = calendar.startOfDay(one);
+                if (calendar.dayOf(start) != one)
+                    continue; // a day that did not take place
+                for (const int distance : {-31, -2, -1, 1, 2, 31}) {
+                    const QDate other = one.addDays(distance);
+                    const QDateTime end = calendar.startOfDay(other);
+                    if (calendar.dayOf(end) != other)
+                        continue;
+                    ASSERT_EQ(calendar.wholeUnits(Day, start, end), distance)
+                        << id.toStdString() << ' ' << one.toString(Qt::ISODate).toStdString();
+                    ASSERT_EQ(calendar.dateByAdding(distance, Day, start), end)
+                        << id.toStdString() << ' ' << one.toString(Qt::ISODate).toStdString();
+                }
+            }
+        }
+    }
+    EXPECT_GT(seen.size(), 200U);
 }
 
 } // namespace

@@ -77,4 +77,13 @@ TEST(TextOrder, GoesByCodePoints)
     EXPECT_LT(compareCaseInsensitively(u"apple"_qs, u"Avocado"_qs), 0);
 }
 
+TEST(TextOrder, SearchesWithoutCaseAndTakesYoForYe)
+{
+    for (const char16_t *wanted : {u"ёжик", u"ежик", u"ЁЖИК", u"е\u0308ж", u""})
+        EXPECT_TRUE(matchesSearch(u"Суп «ЕЖИКИ»"_qs, QString::fromUtf16(wanted)));
+    EXPECT_TRUE(matchesSearch(u"Мёд и Ёршик"_qs, u"мед И ершик"_qs));
+    EXPECT_FALSE(matchesSearch(u"Мёд"_qs, u"мод"_qs));
+    EXPECT_FALSE(matchesSearch(u"Чай"_qs, u"чаи"_qs));
+}
+
 } // namespace

@@ -60,16 +60,6 @@ TEST(MNAdditions, FindsTheEndsOfWeeksAndMonths)
     EXPECT_EQ(lastDateOfMonthWithCalendar(at(berlin, 2024, 10, 3), berlin), at(berlin, 2024, 10, 31, 22, 59, 59));
 }
 
-TEST(MNAdditions, CopesWithADayWithoutMidnight)
-{
-    const Calendar saoPaulo = in("America/Sao_Paulo", Qt::Sunday);
-    const QDateTime skipped = at(saoPaulo, 2018, 11, 4, 1);
-    EXPECT_EQ(mn_beginningOfDay(at(saoPaulo, 2018, 11, 4, 15), saoPaulo), skipped);
-    EXPECT_EQ(mn_dateWithDay(at(saoPaulo, 2018, 11, 20), 4, saoPaulo), skipped);
-    EXPECT_EQ(firstDateOfWeekWithCalendar(at(saoPaulo, 2018, 11, 8), saoPaulo), skipped);
-    EXPECT_EQ(lastDateOfWeekWithCalendar(at(saoPaulo, 2018, 11, 1), saoPaulo), at(saoPaulo, 2018, 11, 3, 23, 59, 59));
-}
-
 TEST(MNAdditions, ReckonsInTheCurrentCalendarWithoutAnother)
 {
     const TestPlatform test({.timeZone = "Asia/Kolkata", .firstWeekday = Qt::Sunday});
