@@ -100,6 +100,7 @@ void Program::showInterface()
         QGuiApplication::setWindowIcon(QIcon(platform().resourcesFolder() + QStringLiteral("/images/app_icon.svg")));
         lifecycle_.watchScreenLock();
         desktopSettings_.follow();
+        systemCalendar_.follow();
     };
     connect(&shown, &QQuickWindow::frameSwapped, this, followFirstFrame,
             static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
@@ -125,6 +126,9 @@ void Program::followSystem()
     connect(&lifecycle_, &ApplicationLifecycle::didEnterBackground, this, &Program::endEditing);
     connect(&view(), SIGNAL(closing(QQuickCloseEvent *)), this, SLOT(endEditing())); // its event is no public type
     connect(qGuiApp, &QCoreApplication::aboutToQuit, this, &Program::endEditing);
+    connect(&systemCalendar_, &SystemCalendar::changed, this,
+            [this](const Calendar &calendar) { platform().setCalendar(calendar); });
+    connect(&lifecycle_, &ApplicationLifecycle::willEnterForeground, &systemCalendar_, &SystemCalendar::refresh);
     connect(&desktopSettings_, &DesktopSettings::animationsChanged, &userInterface_->appearance(),
             &Appearance::setMotion);
     connect(&lifecycle_, &ApplicationLifecycle::didEnterBackground, delegate_.get(),

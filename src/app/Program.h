@@ -5,6 +5,7 @@
 #include "app/ApplicationServices.h"
 #include "app/CommandLine.h"
 #include "platform/DesktopSettings.h"
+#include "platform/SystemCalendar.h"
 #include "ui/UserInterface.h"
 
 #include <QQuickWindow>
@@ -60,6 +61,7 @@ private:
     std::unique_ptr<AppDelegate> delegate_;
     ApplicationLifecycle lifecycle_;
     DesktopSettings desktopSettings_;
+    SystemCalendar systemCalendar_;
     std::unique_ptr<UserInterface> userInterface_;
     QSize initialSize_;
 };

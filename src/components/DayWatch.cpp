@@ -1,6 +1,7 @@
 #include "components/DayWatch.h"
 
 #include "platform/Clock.h"
+#include "platform/NotificationCenter.h"
 #include "platform/Platform.h"
 
 #include <algorithm>
@@ -24,6 +25,13 @@ DayWatch::DayWatch(Platform &platform)
 {
     timer_.setSingleShot(true);
     connect(&timer_, &QTimer::timeout, this, &DayWatch::look);
+    connect(&platform.shared<NotificationCenter>(), &NotificationCenter::posted, this, [this](const QString &name) {
+        if (name != Platform::calendarDidChangeNotification)
+            return;
+        day_ = today();
+        armTimer();
+        Q_EMIT dayChanged();
+    });
     armTimer();
 }
 

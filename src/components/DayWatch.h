@@ -9,7 +9,8 @@ namespace kesto
 
 class Platform;
 
-/// Tells when another day has begun by the platform's clock and calendar, for screens that show which day it is.
+/// Tells when another day has begun by the platform's clock and calendar, or when the calendar has become another one,
+/// for screens that show days.
 class DayWatch : public QObject
 {
     Q_OBJECT

@@ -50,7 +50,15 @@ void CalendarMonth::showMonth(const QDate &month)
     Q_EMIT selectedIndexChanged();
 }
 
-void CalendarMonth::refresh() { replaceCells(makeCells()); }
+void CalendarMonth::refresh()
+{
+    replaceCells(makeCells());
+    const Qt::DayOfWeek first = Platform::current().calendar().firstWeekday();
+    if (std::exchange(firstWeekday_, first) == first)
+        return;
+    Q_EMIT weekdayTitlesChanged();
+    Q_EMIT monthChanged(); // the month may touch more weeks, or fewer
+}
 
 void CalendarMonth::refreshDate(const QDateTime &date)
 {

@@ -37,7 +37,7 @@ class CalendarMonth : public QAbstractListModel
     Q_PROPERTY(QString previousTitle READ previousTitle NOTIFY monthChanged)
     Q_PROPERTY(QString nextTitle READ nextTitle NOTIFY monthChanged)
     Q_PROPERTY(int weeks READ weeks NOTIFY monthChanged)
-    Q_PROPERTY(QStringList weekdayTitles READ weekdayTitles CONSTANT)
+    Q_PROPERTY(QStringList weekdayTitles READ weekdayTitles NOTIFY weekdayTitlesChanged)
     Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectedIndexChanged)
 public:
     enum Role {
@@ -94,6 +94,7 @@ public:
 
 Q_SIGNALS:
     void monthChanged();
+    void weekdayTitlesChanged();
     void selectedIndexChanged();
 
 private:
@@ -104,6 +105,7 @@ private:
 
     QDate month_;
     QDateTime selectedDate_;
+    Qt::DayOfWeek firstWeekday_ = Qt::Monday; // of the cells
     QList<CalendarCell> cells_;
 };
 

@@ -36,6 +36,8 @@ CalendarViewController::CalendarViewController(CalendarScreens screens)
     : screens_(std::move(screens))
 {
     connect(&DayWatch::sharedWatch(), &DayWatch::dayChanged, this, [this] {
+        currentDate_ = Platform::current().calendar().startOfDay(currentDay_);
+        month_.setSelectedDate(currentDate_);
         if (isVisible())
             showStored();
     });
@@ -85,6 +87,7 @@ void CalendarViewController::touchCell(int index)
 void CalendarViewController::updateUIForDate(const QDateTime &date, int dietPeriod)
 {
     currentDate_ = date;
+    currentDay_ = Platform::current().calendar().dayOf(date);
     // With a phase of negative length dietPeriodForCalendar() may put days before the start into Stabilization.
     dietPeriod_ = CalendarMonth::isFromStartOn(date) ? dietPeriod : beforeStart;
     if (dayScreen_ != nullptr) {

@@ -102,6 +102,7 @@ private:
     CalendarMonth month_;
     CalFooterView footer_{this};
     QDateTime currentDate_;
+    QDate currentDay_; // which begins at another instant when the time zone changes
     int dietPeriod_ = -1;
     QString currentWeight_;
     QStringList dishes_;

@@ -1,5 +1,7 @@
 #include "platform/Platform.h"
 
+#include "platform/NotificationCenter.h"
+
 #include <QtGlobal>
 
 #include <atomic>
@@ -31,6 +33,12 @@ Platform::~Platform()
         madeInOrder_.pop_back();
     }
     currentPlatform = nullptr;
+}
+
+void Platform::setCalendar(const Calendar &calendar)
+{
+    if (std::exchange(services_.calendar, calendar) != calendar)
+        shared<NotificationCenter>().post(calendarDidChangeNotification);
 }
 
 Platform &Platform::current()

@@ -37,9 +37,12 @@ public:
         Clock *clock = nullptr;
         RandomSource *random = nullptr;
         CloudKeyValueStore *cloudStore = nullptr; ///< null where the platform has no cloud
-        Calendar calendar;                        ///< the user's current calendar: time zone and first weekday
+        Calendar calendar;                        ///< at the start; see setCalendar()
         UrlOpener urlOpener{};                    ///< none where the system opens no addresses
     };
+
+    /// Posted through the NotificationCenter. Screens that show days follow DayWatch, which hears of it.
+    static inline const QString calendarDidChangeNotification = QStringLiteral("calendarDidChange");
 
     /// Becomes current() until it is destroyed. Only one exists at a time.
     explicit Platform(Services services);
@@ -59,7 +62,11 @@ public:
     [[nodiscard]] Clock &clock() const { return *services_.clock; }
     [[nodiscard]] RandomSource &random() const { return *services_.random; }
     [[nodiscard]] CloudKeyValueStore *cloudStore() const { return services_.cloudStore; }
+    /// The user's current calendar: time zone and first weekday. It changes when the event loop turns; main thread
+    /// only.
     [[nodiscard]] const Calendar &calendar() const { return services_.calendar; }
+    /// Posts calendarDidChangeNotification when the calendar is another one.
+    void setCalendar(const Calendar &calendar);
     /// False when the system has nothing to open the address with.
     bool openUrl(const QUrl &url) const { return services_.urlOpener && services_.urlOpener(url); }
 

@@ -31,6 +31,22 @@ TEST(DayWatch, TellsOfADayOfTheZoneOnce)
     }
 }
 
+TEST(DayWatch, TellsOfAnotherCalendar)
+{
+    TestPlatform platform;
+    platform.clock().set(platform.date(2024, 3, 7, 20)); // the 8th in Tokyo
+    DayWatch &watch = DayWatch::sharedWatch();
+    int days = 0;
+    QObject::connect(&watch, &DayWatch::dayChanged, [&] { ++days; });
+    platform.moveTo("Asia/Tokyo", Qt::Monday);
+    EXPECT_EQ(days, 1);
+    watch.look();
+    platform.moveTo("Asia/Tokyo", Qt::Monday);
+    EXPECT_EQ(days, 1) << "nothing new";
+    platform.moveTo("Asia/Tokyo", Qt::Sunday);
+    EXPECT_EQ(days, 2);
+}
+
 TEST(DayWatch, WaitsForMidnightByItself)
 {
     TestPlatform platform;

@@ -89,6 +89,22 @@ TEST(Calendar, OpensOnTodayAndSelectsFromTheStartOn)
     EXPECT_TRUE(at.program.days().isEmpty()) << "looking creates nothing";
 }
 
+TEST(Calendar, FollowsTheSystemToAnotherZoneAndFirstWeekday)
+{
+    Calendar7March at;
+    at.touch(6);
+    CalendarViewController &screen = *at.screen;
+    const InWindow window(std::move(at.screen));
+    at.program.platform.moveTo("Asia/Tokyo", Qt::Sunday);
+    const CalendarMonth &month = *screen.month();
+    EXPECT_EQ(screen.currentDate(), at.march(6)) << "the same day begins earlier";
+    EXPECT_EQ(screen.dateText(), QStringLiteral("06 марта"));
+    EXPECT_EQ(month.selectedIndex(), month.indexOf(at.march(6)));
+    EXPECT_EQ(month.cells().first().day, QDate(2024, 2, 25)) << "a Sunday";
+    EXPECT_EQ(month.weekdayTitles().first(), QLocale(QLocale::Russian).standaloneDayName(7, QLocale::ShortFormat));
+    EXPECT_EQ(month.weeks(), 6);
+}
+
 TEST(Calendar, ShowsEveryNumberWithoutAnExponent)
 {
     Calendar7March at;

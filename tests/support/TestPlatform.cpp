@@ -1,5 +1,6 @@
 #include "support/TestPlatform.h"
 
+#include <QCoreApplication>
 #include <QDir>
 
 #include <utility>
@@ -73,6 +74,12 @@ void TestPlatform::restart(const QString &version)
 {
     options_.version = version;
     restart();
+}
+
+void TestPlatform::moveTo(const QByteArray &timeZone, Qt::DayOfWeek firstWeekday)
+{
+    platform_->setCalendar(Calendar(QTimeZone(timeZone), firstWeekday));
+    QCoreApplication::processEvents();
 }
 
 QDateTime TestPlatform::date(int year, int month, int day, int hour, int minute, int second) const

@@ -54,6 +54,8 @@ public:
     [[nodiscard]] FakeClock &clock() { return clock_; }
     [[nodiscard]] SequenceRandomSource &random() { return random_; }
     [[nodiscard]] const Calendar &calendar() const { return platform_->calendar(); }
+    /// The user's system moves to another zone; what the program posts about it is delivered.
+    void moveTo(const QByteArray &timeZone, Qt::DayOfWeek firstWeekday);
     /// Only with the option cloud.
     [[nodiscard]] InMemoryCloudStore &cloudStore() { return *cloudStore_; }
     /// Only without the option notificationCenter.
