@@ -75,16 +75,18 @@ std::unique_ptr<ApplicationServices> ApplicationServices::open(const Options &op
     services->presenter_ = std::make_unique<DesktopNotificationPresenter>(applicationName);
     services->notifications_ = std::make_unique<LocalNotificationCenter>(
         folder, services->strings_->localized(QStringLiteral("Диета Кесто")), *clock, *services->presenter_);
-    services->platform_ = std::make_unique<Platform>(Platform::Services{.documentsFolder = documents,
-                                                                        .resourcesFolder = options.resourcesFolder,
-                                                                        .version = options.version,
-                                                                        .userDefaults = services->userDefaults_.get(),
-                                                                        .strings = services->strings_.get(),
-                                                                        .notifications = services->notifications_.get(),
-                                                                        .clock = clock,
-                                                                        .random = random,
-                                                                        .calendar = Calendar(),
-                                                                        .urlOpener = &QDesktopServices::openUrl});
+    services->platform_ = std::make_unique<Platform>(
+        Platform::Services{.documentsFolder = documents,
+                           .resourcesFolder = options.resourcesFolder,
+                           .picturesFolder = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation),
+                           .version = options.version,
+                           .userDefaults = services->userDefaults_.get(),
+                           .strings = services->strings_.get(),
+                           .notifications = services->notifications_.get(),
+                           .clock = clock,
+                           .random = random,
+                           .calendar = Calendar(),
+                           .urlOpener = &QDesktopServices::openUrl});
     return services;
 }
 

@@ -6,6 +6,7 @@
 #include "plan/CalculatorViewController.h"
 #include "plan/CalendarContainerViewController.h"
 #include "plan/DietDayDetailViewController.h"
+#include "plan/GraphViewController.h"
 #include "platform/StringTables.h"
 #include "recipes/CartViewController.h"
 #include "recipes/DishesCategoriesViewController.h"
@@ -51,6 +52,8 @@ Screen makeCalendar(RootViewConrollerViewController &)
     return std::make_unique<CalendarViewController>(CalendarScreens{.jornal = makeJornal, .day = makeDay});
 }
 
+Screen makeGraph(RootViewConrollerViewController &) { return std::make_unique<GraphViewController>(); }
+
 Screen makeCart(RootViewConrollerViewController &) { return std::make_unique<CartViewController>(); }
 
 Screen makeDishesCategories(RootViewConrollerViewController &)
@@ -73,7 +76,7 @@ constexpr std::array screens{
     Entry{ScreenName::AllowedProducts, u"Допустимые продукты", u"2.png", makeAllowedProducts},
     Entry{ScreenName::DishesCategories, u"Рецепты", u"3.png", makeDishesCategories},
     Entry{ScreenName::Calculator, u"Калькулятор веса по Кесто", u"4.png", makeCalculator},
-    Entry{ScreenName::Graph, u"График контроля веса", u"5.png"},
+    Entry{ScreenName::Graph, u"График контроля веса", u"5.png", makeGraph},
     Entry{ScreenName::Calendar, u"Календарь диеты", u"6.png", makeCalendar, calendarContainer},
     Entry{ScreenName::JornalForToday, u"Дневник Диеты", u"7.png", makeJornalForToday},
     Entry{ScreenName::Cart, u"Список покупок", u"8.png", makeCart},

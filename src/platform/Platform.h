@@ -28,9 +28,10 @@ class Platform
 public:
     struct Services
     {
-        QString documentsFolder; ///< absolute path of the folder that holds the user's files; exists
-        QString resourcesFolder; ///< absolute path of the shipped resources
-        QString version;         ///< the application's version, "CFBundleVersion"
+        QString documentsFolder;  ///< absolute path of the folder that holds the user's files; exists
+        QString resourcesFolder;  ///< absolute path of the shipped resources
+        QString picturesFolder{}; ///< where the user keeps pictures; need not exist; empty where there is no such place
+        QString version;          ///< the application's version, "CFBundleVersion"
         UserDefaults *userDefaults = nullptr;
         StringTables *strings = nullptr;
         LocalNotifications *notifications = nullptr;
@@ -55,6 +56,7 @@ public:
 
     [[nodiscard]] const QString &documentsFolder() const { return services_.documentsFolder; }
     [[nodiscard]] const QString &resourcesFolder() const { return services_.resourcesFolder; }
+    [[nodiscard]] const QString &picturesFolder() const { return services_.picturesFolder; }
     [[nodiscard]] const QString &version() const { return services_.version; }
     [[nodiscard]] UserDefaults &userDefaults() const { return *services_.userDefaults; }
     [[nodiscard]] StringTables &strings() const { return *services_.strings; }

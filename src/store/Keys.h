@@ -28,6 +28,7 @@ inline const QString kPasscodeKey =
 inline const QString kTimerKey = QStringLiteral("kTimerKey"); ///< date: when the countdown ends
 inline const QString kWaterWalskey = QStringLiteral("kWaterWalskey");   ///< dictionary: portions of drink
 inline const QString kDishSendedKey = QStringLiteral("kDishSendedKey"); ///< flag: the thank-you for a recipe was shown
+inline const QString kGraphTrendKey = QStringLiteral("kGraphTrendKey"); ///< flag: the graph shows a trend line
 
 } // namespace Keys
 

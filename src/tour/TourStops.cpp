@@ -9,6 +9,7 @@
 #include "tour/TourGuide.h"
 #include "tour/TourStopsBalance.h"
 #include "tour/TourStopsCart.h"
+#include "tour/TourStopsGraph.h"
 #include "tour/TourStopsPlan.h"
 #include "tour/TourStopsRecipes.h"
 
@@ -49,9 +50,9 @@ QList<TourStop> tourStops()
         {QStringLiteral("phases"), row(1)},
     };
     stops += calculatorTourStops();
+    stops += graphTourStops();
     stops += calendarTourStops();
     stops += QList<TourStop>{
-        {QStringLiteral("graph"), row(5)},
         {QStringLiteral("journal"), row(7)},
     };
     stops += balanceTourStops();

@@ -5,6 +5,7 @@
 #include "plan/CalendarMonth.h"
 #include "plan/CalendarViewController.h"
 #include "plan/DietPeriodsSelector.h"
+#include "plan/GraphViewController.h"
 
 #include <QtQml/qqmlregistration.h>
 
@@ -82,6 +83,14 @@ struct CalKindButtonListType
     QML_FOREIGN(QList<kesto::CalKindButton *>)
     QML_ANONYMOUS
     QML_SEQUENTIAL_CONTAINER(kesto::CalKindButton *)
+};
+
+struct GraphViewControllerType
+{
+    Q_GADGET
+    QML_FOREIGN(kesto::GraphViewController)
+    QML_NAMED_ELEMENT(GraphViewController)
+    QML_UNCREATABLE("made in C++")
 };
 
 } // namespace kesto::qml

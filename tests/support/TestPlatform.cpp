@@ -42,6 +42,7 @@ void TestPlatform::start()
     platform_ = std::make_unique<Platform>(
         Platform::Services{.documentsFolder = documentsFolder(),
                            .resourcesFolder = options_.resourcesFolder,
+                           .picturesFolder = folder() + QStringLiteral("/Pictures"),
                            .version = options_.version,
                            .userDefaults = userDefaults_.get(),
                            .strings = strings_.get(),
