@@ -9,37 +9,15 @@
 namespace kesto
 {
 
-EntityDescription DietDay::description()
-{
-    return {"DietDay",
-            {{"date", AttributeType::Date, true},
-             {"weight", AttributeType::Float},
-             {"chest", AttributeType::Float},
-             {"hip", AttributeType::Float},
-             {"waist", AttributeType::Float},
-             {"biceps", AttributeType::Float},
-             {"chB", AttributeType::Boolean},
-             {"bO", AttributeType::Boolean},
-             {"feast", AttributeType::Boolean}},
-            {{.name = "dishes",
-              .destination = "DishInDietDay",
-              .inverse = "dietDays",
-              .toMany = true,
-              .deleteRule = DeleteRule::Cascade},
-             {.name = "jornalDay", .destination = "JornalDay", .inverse = "day", .deleteRule = DeleteRule::Cascade}},
-            &kTypeTag,
-            &makeObject<DietDay>};
-}
+JornalDay *DietDay::jornalDay() const { return one<"jornalDay">(); }
 
-JornalDay *DietDay::jornalDay() const { return static_cast<JornalDay *>(toOne(0)); }
+void DietDay::setJornalDay(JornalDay *value) { setOne<"jornalDay">(value); }
 
-void DietDay::setJornalDay(JornalDay *value) { setToOne(0, value); }
+std::vector<DishInDietDay *> DietDay::dishes() const { return many<"dishes">(); }
 
-std::vector<DishInDietDay *> DietDay::dishes() const { return objectsAt<DishInDietDay>(0); }
+void DietDay::addDishes(DishInDietDay &object) { add<"dishes">(object); }
 
-void DietDay::addDishes(DishInDietDay &object) { addToMany(0, &object); }
-
-void DietDay::removeDishes(DishInDietDay &object) { removeFromMany(0, &object); }
+void DietDay::removeDishes(DishInDietDay &object) { remove<"dishes">(object); }
 
 DietDay *DietDay::dayWithoutCreation(const QDateTime &date, ManagedObjectContext &inManagedObjectContext)
 {

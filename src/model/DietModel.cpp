@@ -17,11 +17,11 @@ namespace kesto
 
 const ManagedObjectModel &dietModel()
 {
-    static const ManagedObjectModel model(
-        "Diet", 1,
-        {DietDay::description(), Dish::description(), DishesCategory::description(), Ingredient::description(),
-         PurhaseIngredient::description(), DishInDietDay::description(), Image::description(), JornalDay::description(),
-         TimeRow::description(), TimeObject::description(), FoodObject::description()});
+    static const ManagedObjectModel model("Diet", 1,
+                                          {describe<DietDay>(), describe<Dish>(), describe<DishesCategory>(),
+                                           describe<Ingredient>(), describe<PurhaseIngredient>(),
+                                           describe<DishInDietDay>(), describe<Image>(), describe<JornalDay>(),
+                                           describe<TimeRow>(), describe<TimeObject>(), describe<FoodObject>()});
     return model;
 }
 

@@ -5,8 +5,9 @@
 namespace kesto
 {
 
-/// The model "Diet": the eleven entities that hold all of the user's data and the catalogue. When an entity changes,
-/// its version grows; files of older versions are brought up to it when they are opened.
+/// The model "Diet": the eleven entities that hold all of the user's data and the catalogue. When an
+/// entity changes, raise the version: files of older versions are upgraded when they are opened, and a changed model
+/// refuses the files of its own version.
 [[nodiscard]] const ManagedObjectModel &dietModel();
 
 } // namespace kesto

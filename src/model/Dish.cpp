@@ -13,84 +13,31 @@
 namespace kesto
 {
 
-namespace
-{
+DishesCategory *Dish::dishCategory() const { return one<"dishCategory">(); }
 
-constexpr int kNameRU = 1;
+void Dish::setDishCategory(DishesCategory *value) { setOne<"dishCategory">(value); }
 
-/// The string table of each language names the attribute that holds its names.
-int displayNameSlot(const EntityDescription &entity)
-{
-    const QString key = localized(QStringLiteral("nameKey"));
-    const auto isText = [&](const std::optional<PropertyReference> &property) {
-        return property && property->kind == PropertyReference::Kind::Attribute &&
-               entity.attributes()[static_cast<size_t>(property->slot)].type == AttributeType::String;
-    };
-    if (const auto named = entity.property(key.toStdString()); isText(named))
-        return named->slot;
-    log("Dish has no name - %@", key);
-    return kNameRU;
-}
+Image *Dish::image() const { return one<"image">(); }
 
-} // namespace
+void Dish::setImage(Image *value) { setOne<"image">(value); }
 
-EntityDescription Dish::description()
-{
-    return {"Dish",
-            {{"dishID", AttributeType::String, true},
-             {"nameRU", AttributeType::String, true},
-             {"nameENG", AttributeType::String},
-             {"recipeRU", AttributeType::String},
-             {"recipeENG", AttributeType::String},
-             {"dietPeriod", AttributeType::String},
-             {"recipeNew", AttributeType::Boolean},
-             {"userCreated", AttributeType::Boolean}},
-            {{.name = "dishCategory", .destination = "DishesCategory", .inverse = "dishes"},
-             {.name = "image", .destination = "Image", .inverse = "dish", .deleteRule = DeleteRule::Cascade},
-             {.name = "dishInDietDays",
-              .destination = "DishInDietDay",
-              .inverse = "dish",
-              .toMany = true,
-              .deleteRule = DeleteRule::Cascade},
-             {.name = "ingredientsRU",
-              .destination = "Ingredient",
-              .inverse = "dishRU",
-              .toMany = true,
-              .deleteRule = DeleteRule::Cascade},
-             {.name = "ingredientsENG",
-              .destination = "Ingredient",
-              .inverse = "dishENG",
-              .toMany = true,
-              .deleteRule = DeleteRule::Cascade}},
-            &kTypeTag,
-            &makeObject<Dish>};
-}
+std::vector<DishInDietDay *> Dish::dishInDietDays() const { return many<"dishInDietDays">(); }
 
-DishesCategory *Dish::dishCategory() const { return static_cast<DishesCategory *>(toOne(0)); }
+void Dish::addDishInDietDays(DishInDietDay &object) { add<"dishInDietDays">(object); }
 
-void Dish::setDishCategory(DishesCategory *value) { setToOne(0, value); }
+void Dish::removeDishInDietDays(DishInDietDay &object) { remove<"dishInDietDays">(object); }
 
-Image *Dish::image() const { return static_cast<Image *>(toOne(1)); }
+std::vector<Ingredient *> Dish::ingredientsRU() const { return many<"ingredientsRU">(); }
 
-void Dish::setImage(Image *value) { setToOne(1, value); }
+void Dish::addIngredientsRU(Ingredient &object) { add<"ingredientsRU">(object); }
 
-std::vector<DishInDietDay *> Dish::dishInDietDays() const { return objectsAt<DishInDietDay>(0); }
+void Dish::removeIngredientsRU(Ingredient &object) { remove<"ingredientsRU">(object); }
 
-void Dish::addDishInDietDays(DishInDietDay &object) { addToMany(0, &object); }
+std::vector<Ingredient *> Dish::ingredientsENG() const { return many<"ingredientsENG">(); }
 
-void Dish::removeDishInDietDays(DishInDietDay &object) { removeFromMany(0, &object); }
+void Dish::addIngredientsENG(Ingredient &object) { add<"ingredientsENG">(object); }
 
-std::vector<Ingredient *> Dish::ingredientsRU() const { return objectsAt<Ingredient>(1); }
-
-void Dish::addIngredientsRU(Ingredient &object) { addToMany(1, &object); }
-
-void Dish::removeIngredientsRU(Ingredient &object) { removeFromMany(1, &object); }
-
-std::vector<Ingredient *> Dish::ingredientsENG() const { return objectsAt<Ingredient>(2); }
-
-void Dish::addIngredientsENG(Ingredient &object) { addToMany(2, &object); }
-
-void Dish::removeIngredientsENG(Ingredient &object) { removeFromMany(2, &object); }
+void Dish::removeIngredientsENG(Ingredient &object) { remove<"ingredientsENG">(object); }
 
 Result<Dish *> Dish::dishWithID(const QString &dishID, ManagedObjectContext &inManagedObjectContext)
 {
@@ -114,7 +61,19 @@ Dish *Dish::dishWithRusName(const QString &nameRU, ManagedObjectContext &inManag
         .value_or(nullptr);
 }
 
-QString Dish::displayName() const { return textAt(displayNameSlot(entity())); }
+// The string table of each language names the attribute that holds its names.
+int Dish::displayNameSlot(const EntityDescription &entity)
+{
+    const QString key = localized(QStringLiteral("nameKey"));
+    const auto named = entity.property(key.toStdString());
+    if (named && named->kind == PropertyReference::Kind::Attribute &&
+        entity.attributes()[static_cast<size_t>(named->slot)].type == AttributeType::String)
+        return named->slot;
+    log("Dish has no name - %@", key);
+    return slotOf<"nameRU">();
+}
+
+QString Dish::displayName() const { return accessed<QString>(attributeAt(displayNameSlot(entity()))); }
 
 void Dish::sortByDisplayName(std::vector<Dish *> &dishes)
 {

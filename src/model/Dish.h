@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Error.h"
-#include "platform/objectgraph/ManagedObject.h"
+#include "platform/objectgraph/StoredObject.h"
 
 #include <vector>
 
@@ -14,16 +14,19 @@ class Image;
 class Ingredient;
 
 /// One recipe of the catalogue or of the user.
-class Dish final : public StoredObject<8, 2, 3>
+class Dish final
+    : public StoredObject<
+          "Dish",
+          Attributes<Attribute<"dishID", QString, Index::Yes>, Attribute<"nameRU", QString, Index::Yes>,
+                     Attribute<"nameENG", QString>, Attribute<"recipeRU", QString>, Attribute<"recipeENG", QString>,
+                     Attribute<"dietPeriod", QString>, Attribute<"recipeNew", bool>, Attribute<"userCreated", bool>>,
+          Relationships<ToOne<"dishCategory", DishesCategory, "dishes">, ToOne<"image", Image, "dish", Tie::Owns>,
+                        ToMany<"dishInDietDays", DishInDietDay, "dish", Tie::Owns>,
+                        ToMany<"ingredientsRU", Ingredient, "dishRU", Tie::Owns>,
+                        ToMany<"ingredientsENG", Ingredient, "dishENG", Tie::Owns>>>
 {
 public:
-    static constexpr char kTypeTag = 0; ///< its address stands for the class
-
-    Dish(const EntityDescription &entity, ManagedObjectContext &context, qint64 id)
-        : StoredObject(entity, context, id)
-    {
-    }
-    [[nodiscard]] static EntityDescription description();
+    using StoredObject::StoredObject;
 
     /// The dish of an identifier. A new one is marked as a new recipe and not saved. An error, which was logged, when
     /// it could not be looked up.
@@ -45,22 +48,24 @@ public:
     /// The ingredient lines in the language of the interface, in their order.
     [[nodiscard]] std::vector<Ingredient *> ingredients() const;
 
-    [[nodiscard]] QString dishID() const { return textAt(0); } ///< key for the import; null for a dish of the user
-    void setDishID(const QString &value) { setTextAt(0, value); }
-    [[nodiscard]] QString nameRU() const { return textAt(1); } ///< also the identity among the favourites
-    void setNameRU(const QString &value) { setTextAt(1, value); }
-    [[nodiscard]] QString nameENG() const { return textAt(2); }
-    void setNameENG(const QString &value) { setTextAt(2, value); }
-    [[nodiscard]] QString recipeRU() const { return textAt(3); }
-    void setRecipeRU(const QString &value) { setTextAt(3, value); }
-    [[nodiscard]] QString recipeENG() const { return textAt(4); }
-    void setRecipeENG(const QString &value) { setTextAt(4, value); }
-    [[nodiscard]] QString dietPeriod() const { return textAt(5); } ///< the digits of the phases that allow the dish
-    void setDietPeriod(const QString &value) { setTextAt(5, value); }
-    [[nodiscard]] std::optional<bool> recipeNew() const { return flagAt(6); } ///< not opened since it came
-    void setRecipeNew(std::optional<bool> value) { setIntegerAt(6, value); }
-    [[nodiscard]] std::optional<bool> userCreated() const { return flagAt(7); }
-    void setUserCreated(std::optional<bool> value) { setIntegerAt(7, value); }
+    /// Key for the import; null for a dish of the user.
+    [[nodiscard]] QString dishID() const { return get<"dishID">(); }
+    void setDishID(const QString &value) { set<"dishID">(value); }
+    [[nodiscard]] QString nameRU() const { return get<"nameRU">(); } ///< also the identity among the favourites
+    void setNameRU(const QString &value) { set<"nameRU">(value); }
+    [[nodiscard]] QString nameENG() const { return get<"nameENG">(); }
+    void setNameENG(const QString &value) { set<"nameENG">(value); }
+    [[nodiscard]] QString recipeRU() const { return get<"recipeRU">(); }
+    void setRecipeRU(const QString &value) { set<"recipeRU">(value); }
+    [[nodiscard]] QString recipeENG() const { return get<"recipeENG">(); }
+    void setRecipeENG(const QString &value) { set<"recipeENG">(value); }
+    /// The digits of the phases that allow the dish.
+    [[nodiscard]] QString dietPeriod() const { return get<"dietPeriod">(); }
+    void setDietPeriod(const QString &value) { set<"dietPeriod">(value); }
+    [[nodiscard]] std::optional<bool> recipeNew() const { return get<"recipeNew">(); } ///< not opened since it came
+    void setRecipeNew(std::optional<bool> value) { set<"recipeNew">(value); }
+    [[nodiscard]] std::optional<bool> userCreated() const { return get<"userCreated">(); }
+    void setUserCreated(std::optional<bool> value) { set<"userCreated">(value); }
 
     [[nodiscard]] DishesCategory *dishCategory() const;
     void setDishCategory(DishesCategory *value);
@@ -75,6 +80,9 @@ public:
     [[nodiscard]] std::vector<Ingredient *> ingredientsENG() const;
     void addIngredientsENG(Ingredient &object);
     void removeIngredientsENG(Ingredient &object);
+
+private:
+    [[nodiscard]] static int displayNameSlot(const EntityDescription &entity);
 };
 
 } // namespace kesto

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/objectgraph/ManagedObject.h"
+#include "platform/objectgraph/StoredObject.h"
 
 namespace kesto
 {
@@ -10,19 +10,17 @@ class Dish;
 class TimeRow;
 
 /// A dish in the plan of a day (dietDays is set) or in a row of the journal (jornalTimeRow is set).
-class DishInDietDay final : public StoredObject<1, 3, 0>
+class DishInDietDay final
+    : public StoredObject<
+          "DishInDietDay", Attributes<Attribute<"displayOrder", int>>,
+          Relationships<ToOne<"dietDays", DietDay, "dishes", Tie::OwnedBy>, ToOne<"dish", Dish, "dishInDietDays">,
+                        ToOne<"jornalTimeRow", TimeRow, "dishesInDietDay", Tie::OwnedBy>>>
 {
 public:
-    static constexpr char kTypeTag = 0; ///< its address stands for the class
+    using StoredObject::StoredObject;
 
-    DishInDietDay(const EntityDescription &entity, ManagedObjectContext &context, qint64 id)
-        : StoredObject(entity, context, id)
-    {
-    }
-    [[nodiscard]] static EntityDescription description();
-
-    [[nodiscard]] std::optional<int> displayOrder() const { return integerAt<int>(0); } ///< 0-based within its list
-    void setDisplayOrder(std::optional<int> value) { setIntegerAt(0, value); }
+    [[nodiscard]] std::optional<int> displayOrder() const { return get<"displayOrder">(); } ///< 0-based within its list
+    void setDisplayOrder(std::optional<int> value) { set<"displayOrder">(value); }
 
     [[nodiscard]] DietDay *dietDays() const; ///< one day, despite its name
     void setDietDays(DietDay *value);

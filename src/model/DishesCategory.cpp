@@ -28,22 +28,11 @@ const QStringList &categoriesInOrder()
 
 } // namespace
 
-EntityDescription DishesCategory::description()
-{
-    return {"DishesCategory",
-            {{"nameRU", AttributeType::String, true},
-             {"nameENG", AttributeType::String},
-             {"displayOrder", AttributeType::UnsignedInteger, true}},
-            {{.name = "dishes", .destination = "Dish", .inverse = "dishCategory", .toMany = true}},
-            &kTypeTag,
-            &makeObject<DishesCategory>};
-}
+std::vector<Dish *> DishesCategory::dishes() const { return many<"dishes">(); }
 
-std::vector<Dish *> DishesCategory::dishes() const { return objectsAt<Dish>(0); }
+void DishesCategory::addDishes(Dish &object) { add<"dishes">(object); }
 
-void DishesCategory::addDishes(Dish &object) { addToMany(0, &object); }
-
-void DishesCategory::removeDishes(Dish &object) { removeFromMany(0, &object); }
+void DishesCategory::removeDishes(Dish &object) { remove<"dishes">(object); }
 
 Result<DishesCategory *> DishesCategory::dishCategoryWirhRusName(const QString &rusName, const QString &engName,
                                                                  ManagedObjectContext &inManagedObjectContext)

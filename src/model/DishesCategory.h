@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Error.h"
-#include "platform/objectgraph/ManagedObject.h"
+#include "platform/objectgraph/StoredObject.h"
 
 #include <limits>
 #include <vector>
@@ -12,21 +12,19 @@ namespace kesto
 class Dish;
 
 /// A section of the catalogue.
-class DishesCategory final : public StoredObject<3, 0, 1>
+class DishesCategory final
+    : public StoredObject<"DishesCategory",
+                          Attributes<Attribute<"nameRU", QString, Index::Yes>, Attribute<"nameENG", QString>,
+                                     Attribute<"displayOrder", quint32, Index::Yes>>,
+                          Relationships<ToMany<"dishes", Dish, "dishCategory">>>
 {
 public:
-    static constexpr char kTypeTag = 0; ///< its address stands for the class
+    using StoredObject::StoredObject;
 
-    DishesCategory(const EntityDescription &entity, ManagedObjectContext &context, qint64 id)
-        : StoredObject(entity, context, id)
-    {
-    }
-    [[nodiscard]] static EntityDescription description();
-
-    /// What displayOrder is for a category that is none of the nine: it sorts behind them.
+    /// The displayOrder of a category that is not one of the nine; it sorts last.
     static constexpr quint32 kUnknownOrder = std::numeric_limits<quint32>::max();
 
-    /// The category of a Russian name, as it is. A new one gets both names and its place among the nine; it is not
+    /// The category of a Russian name, unchanged. A new one gets both names and its place among the nine; it is not
     /// saved. An error, which was logged, when it could not be looked up.
     [[nodiscard]] static Result<DishesCategory *> dishCategoryWirhRusName(const QString &rusName,
                                                                           const QString &engName,
@@ -35,12 +33,12 @@ public:
     static DishesCategory &insertWithRusName(const QString &rusName, const QString &engName,
                                              ManagedObjectContext &context);
 
-    [[nodiscard]] QString nameRU() const { return textAt(0); } ///< the key
-    void setNameRU(const QString &value) { setTextAt(0, value); }
-    [[nodiscard]] QString nameENG() const { return textAt(1); }
-    void setNameENG(const QString &value) { setTextAt(1, value); }
-    [[nodiscard]] std::optional<quint32> displayOrder() const { return integerAt<quint32>(2); }
-    void setDisplayOrder(std::optional<quint32> value) { setIntegerAt(2, value); }
+    [[nodiscard]] QString nameRU() const { return get<"nameRU">(); } ///< the key
+    void setNameRU(const QString &value) { set<"nameRU">(value); }
+    [[nodiscard]] QString nameENG() const { return get<"nameENG">(); }
+    void setNameENG(const QString &value) { set<"nameENG">(value); }
+    [[nodiscard]] std::optional<quint32> displayOrder() const { return get<"displayOrder">(); }
+    void setDisplayOrder(std::optional<quint32> value) { set<"displayOrder">(value); }
 
     [[nodiscard]] std::vector<Dish *> dishes() const;
     void addDishes(Dish &object);

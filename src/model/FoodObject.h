@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/objectgraph/ManagedObject.h"
+#include "platform/objectgraph/StoredObject.h"
 
 namespace kesto
 {
@@ -8,23 +8,21 @@ namespace kesto
 class JornalDay;
 
 /// One intake of protein or water on a journal day.
-class FoodObject final : public StoredObject<3, 2, 0>
+class FoodObject final
+    : public StoredObject<"FoodObject",
+                          Attributes<Attribute<"time", float>, Attribute<"type", int>, Attribute<"count", int>>,
+                          Relationships<ToOne<"jornalDayMeat", JornalDay, "meatObjects", Tie::OwnedBy>,
+                                        ToOne<"jornalDayWatter", JornalDay, "waterObjects", Tie::OwnedBy>>>
 {
 public:
-    static constexpr char kTypeTag = 0; ///< its address stands for the class
+    using StoredObject::StoredObject;
 
-    FoodObject(const EntityDescription &entity, ManagedObjectContext &context, qint64 id)
-        : StoredObject(entity, context, id)
-    {
-    }
-    [[nodiscard]] static EntityDescription description();
-
-    [[nodiscard]] std::optional<float> time() const { return floatAt(0); } ///< hours.minutes
-    void setTime(std::optional<float> value) { setFloatAt(0, value); }
-    [[nodiscard]] std::optional<int> type() const { return integerAt<int>(1); }
-    void setType(std::optional<int> value) { setIntegerAt(1, value); }
-    [[nodiscard]] std::optional<int> count() const { return integerAt<int>(2); }
-    void setCount(std::optional<int> value) { setIntegerAt(2, value); }
+    [[nodiscard]] std::optional<float> time() const { return get<"time">(); } ///< hours.minutes
+    void setTime(std::optional<float> value) { set<"time">(value); }
+    [[nodiscard]] std::optional<int> type() const { return get<"type">(); }
+    void setType(std::optional<int> value) { set<"type">(value); }
+    [[nodiscard]] std::optional<int> count() const { return get<"count">(); }
+    void setCount(std::optional<int> value) { set<"count">(value); }
 
     [[nodiscard]] JornalDay *jornalDayMeat() const; ///< set for protein
     void setJornalDayMeat(JornalDay *value);

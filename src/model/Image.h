@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/objectgraph/ManagedObject.h"
+#include "platform/objectgraph/StoredObject.h"
 
 namespace kesto
 {
@@ -8,19 +8,14 @@ namespace kesto
 class Dish;
 
 /// The photo of a dish.
-class Image final : public StoredObject<1, 1, 0>
+class Image final : public StoredObject<"Image", Attributes<Attribute<"data", QByteArray>>,
+                                        Relationships<ToOne<"dish", Dish, "image", Tie::OwnedBy>>>
 {
 public:
-    static constexpr char kTypeTag = 0; ///< its address stands for the class
+    using StoredObject::StoredObject;
 
-    Image(const EntityDescription &entity, ManagedObjectContext &context, qint64 id)
-        : StoredObject(entity, context, id)
-    {
-    }
-    [[nodiscard]] static EntityDescription description();
-
-    [[nodiscard]] std::optional<QByteArray> data() const { return bytesAt(0); } ///< encoded image
-    void setData(const std::optional<QByteArray> &value) { setBytesAt(0, value); }
+    [[nodiscard]] std::optional<QByteArray> data() const { return get<"data">(); } ///< encoded image
+    void setData(const std::optional<QByteArray> &value) { set<"data">(value); }
 
     [[nodiscard]] Dish *dish() const;
     void setDish(Dish *value);

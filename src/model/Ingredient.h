@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Error.h"
-#include "platform/objectgraph/ManagedObject.h"
+#include "platform/objectgraph/StoredObject.h"
 
 #include <vector>
 
@@ -12,26 +12,24 @@ class Dish;
 class PurhaseIngredient;
 
 /// One ingredient line of a dish, or a product of the shopping list that belongs to no dish.
-class Ingredient final : public StoredObject<2, 2, 1>
+class Ingredient final
+    : public StoredObject<
+          "Ingredient", Attributes<Attribute<"name", QString, Index::Yes>, Attribute<"displayOrder", int>>,
+          Relationships<ToOne<"dishRU", Dish, "ingredientsRU">, ToOne<"dishENG", Dish, "ingredientsENG">,
+                        ToMany<"purchaseIngredient", PurhaseIngredient, "ingredient">>>
 {
 public:
-    static constexpr char kTypeTag = 0; ///< its address stands for the class
-
-    Ingredient(const EntityDescription &entity, ManagedObjectContext &context, qint64 id)
-        : StoredObject(entity, context, id)
-    {
-    }
-    [[nodiscard]] static EntityDescription description();
+    using StoredObject::StoredObject;
 
     /// The line of exactly this name; a new one is saved at once. An error, which was logged, when it could not be
     /// looked up.
     [[nodiscard]] static Result<Ingredient *> ingredientWithName(const QString &name,
                                                                  ManagedObjectContext &inManagedObjectContext);
 
-    [[nodiscard]] QString name() const { return textAt(0); } ///< the whole line, quantity included
-    void setName(const QString &value) { setTextAt(0, value); }
-    [[nodiscard]] std::optional<int> displayOrder() const { return integerAt<int>(1); } ///< 0-based within its list
-    void setDisplayOrder(std::optional<int> value) { setIntegerAt(1, value); }
+    [[nodiscard]] QString name() const { return get<"name">(); } ///< the whole line, quantity included
+    void setName(const QString &value) { set<"name">(value); }
+    [[nodiscard]] std::optional<int> displayOrder() const { return get<"displayOrder">(); } ///< 0-based within its list
+    void setDisplayOrder(std::optional<int> value) { set<"displayOrder">(value); }
 
     [[nodiscard]] Dish *dishRU() const; ///< set in the Russian list
     void setDishRU(Dish *value);

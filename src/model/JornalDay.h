@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/objectgraph/ManagedObject.h"
+#include "platform/objectgraph/StoredObject.h"
 
 #include <vector>
 
@@ -12,26 +12,25 @@ class FoodObject;
 class TimeRow;
 
 /// The journal of one diet day.
-class JornalDay final : public StoredObject<3, 1, 3>
+class JornalDay final
+    : public StoredObject<
+          "JornalDay",
+          Attributes<Attribute<"hotDay", bool>, Attribute<"sportDay", bool>, Attribute<"meatSportActivity", int>>,
+          Relationships<ToOne<"day", DietDay, "jornalDay", Tie::OwnedBy>,
+                        ToMany<"timeRows", TimeRow, "joranlDay", Tie::Owns>,
+                        ToMany<"meatObjects", FoodObject, "jornalDayMeat", Tie::Owns>,
+                        ToMany<"waterObjects", FoodObject, "jornalDayWatter", Tie::Owns>>>
 {
 public:
-    static constexpr char kTypeTag = 0; ///< its address stands for the class
+    using StoredObject::StoredObject;
 
-    JornalDay(const EntityDescription &entity, ManagedObjectContext &context, qint64 id)
-        : StoredObject(entity, context, id)
-    {
-    }
-    [[nodiscard]] static EntityDescription description();
-
-    [[nodiscard]] std::optional<bool> hotDay() const { return flagAt(0); }
-    void setHotDay(std::optional<bool> value) { setIntegerAt(0, value); }
-    [[nodiscard]] std::optional<bool> sportDay() const { return flagAt(1); }
-    void setSportDay(std::optional<bool> value) { setIntegerAt(1, value); }
-    [[nodiscard]] std::optional<int> meatSportActivity() const
-    {
-        return integerAt<int>(2);
-    } ///< level of activity, 1 to 4
-    void setMeatSportActivity(std::optional<int> value) { setIntegerAt(2, value); }
+    [[nodiscard]] std::optional<bool> hotDay() const { return get<"hotDay">(); }
+    void setHotDay(std::optional<bool> value) { set<"hotDay">(value); }
+    [[nodiscard]] std::optional<bool> sportDay() const { return get<"sportDay">(); }
+    void setSportDay(std::optional<bool> value) { set<"sportDay">(value); }
+    /// Level of activity, 1 to 4.
+    [[nodiscard]] std::optional<int> meatSportActivity() const { return get<"meatSportActivity">(); }
+    void setMeatSportActivity(std::optional<int> value) { set<"meatSportActivity">(value); }
 
     [[nodiscard]] DietDay *day() const;
     void setDay(DietDay *value);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/objectgraph/ManagedObject.h"
+#include "platform/objectgraph/StoredObject.h"
 
 namespace kesto
 {
@@ -8,23 +8,21 @@ namespace kesto
 class Ingredient;
 
 /// One line of the shopping list.
-class PurhaseIngredient final : public StoredObject<3, 1, 0>
+class PurhaseIngredient final
+    : public StoredObject<"PurhaseIngredient",
+                          Attributes<Attribute<"count", QString>, Attribute<"date", QDateTime, Index::Yes>,
+                                     Attribute<"purchased", bool>>,
+                          Relationships<ToOne<"ingredient", Ingredient, "purchaseIngredient">>>
 {
 public:
-    static constexpr char kTypeTag = 0; ///< its address stands for the class
+    using StoredObject::StoredObject;
 
-    PurhaseIngredient(const EntityDescription &entity, ManagedObjectContext &context, qint64 id)
-        : StoredObject(entity, context, id)
-    {
-    }
-    [[nodiscard]] static EntityDescription description();
-
-    [[nodiscard]] QString count() const { return textAt(0); } ///< quantity, free text
-    void setCount(const QString &value) { setTextAt(0, value); }
-    [[nodiscard]] std::optional<QDateTime> date() const { return dateAt(1); } ///< of the last addition
-    void setDate(const std::optional<QDateTime> &value) { setDateAt(1, value); }
-    [[nodiscard]] std::optional<bool> purchased() const { return flagAt(2); }
-    void setPurchased(std::optional<bool> value) { setIntegerAt(2, value); }
+    [[nodiscard]] QString count() const { return get<"count">(); } ///< quantity, free text
+    void setCount(const QString &value) { set<"count">(value); }
+    [[nodiscard]] std::optional<QDateTime> date() const { return get<"date">(); } ///< of the last addition
+    void setDate(const std::optional<QDateTime> &value) { set<"date">(value); }
+    [[nodiscard]] std::optional<bool> purchased() const { return get<"purchased">(); }
+    void setPurchased(std::optional<bool> value) { set<"purchased">(value); }
 
     [[nodiscard]] Ingredient *ingredient() const;
     void setIngredient(Ingredient *value);

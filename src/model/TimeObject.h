@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/objectgraph/ManagedObject.h"
+#include "platform/objectgraph/StoredObject.h"
 
 namespace kesto
 {
@@ -8,25 +8,22 @@ namespace kesto
 class TimeRow;
 
 /// One activity in a time row.
-class TimeObject final : public StoredObject<4, 1, 0>
+class TimeObject final : public StoredObject<"TimeObject",
+                                             Attributes<Attribute<"type", int>, Attribute<"value1", float>,
+                                                        Attribute<"value2", int>, Attribute<"waterType", int>>,
+                                             Relationships<ToOne<"timeRow", TimeRow, "timeObjects", Tie::OwnedBy>>>
 {
 public:
-    static constexpr char kTypeTag = 0; ///< its address stands for the class
+    using StoredObject::StoredObject;
 
-    TimeObject(const EntityDescription &entity, ManagedObjectContext &context, qint64 id)
-        : StoredObject(entity, context, id)
-    {
-    }
-    [[nodiscard]] static EntityDescription description();
-
-    [[nodiscard]] std::optional<int> type() const { return integerAt<int>(0); }
-    void setType(std::optional<int> value) { setIntegerAt(0, value); }
-    [[nodiscard]] std::optional<float> value1() const { return floatAt(1); }
-    void setValue1(std::optional<float> value) { setFloatAt(1, value); }
-    [[nodiscard]] std::optional<int> value2() const { return integerAt<int>(2); }
-    void setValue2(std::optional<int> value) { setIntegerAt(2, value); }
-    [[nodiscard]] std::optional<int> waterType() const { return integerAt<int>(3); }
-    void setWaterType(std::optional<int> value) { setIntegerAt(3, value); }
+    [[nodiscard]] std::optional<int> type() const { return get<"type">(); }
+    void setType(std::optional<int> value) { set<"type">(value); }
+    [[nodiscard]] std::optional<float> value1() const { return get<"value1">(); }
+    void setValue1(std::optional<float> value) { set<"value1">(value); }
+    [[nodiscard]] std::optional<int> value2() const { return get<"value2">(); }
+    void setValue2(std::optional<int> value) { set<"value2">(value); }
+    [[nodiscard]] std::optional<int> waterType() const { return get<"waterType">(); }
+    void setWaterType(std::optional<int> value) { set<"waterType">(value); }
 
     [[nodiscard]] TimeRow *timeRow() const;
     void setTimeRow(TimeRow *value);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/objectgraph/ManagedObject.h"
+#include "platform/objectgraph/StoredObject.h"
 
 #include <vector>
 
@@ -12,29 +12,30 @@ class JornalDay;
 class TimeObject;
 
 /// One slot of a journal day.
-class TimeRow final : public StoredObject<6, 1, 2>
+class TimeRow final
+    : public StoredObject<"TimeRow",
+                          Attributes<Attribute<"time", float>, Attribute<"compleate", bool>, Attribute<"remind", bool>,
+                                     Attribute<"reminderDate", QDateTime>, Attribute<"userCreated", bool>,
+                                     Attribute<"otherTimeObject", QString>>,
+                          Relationships<ToOne<"joranlDay", JornalDay, "timeRows", Tie::OwnedBy>,
+                                        ToMany<"timeObjects", TimeObject, "timeRow", Tie::Owns>,
+                                        ToMany<"dishesInDietDay", DishInDietDay, "jornalTimeRow", Tie::Owns>>>
 {
 public:
-    static constexpr char kTypeTag = 0; ///< its address stands for the class
+    using StoredObject::StoredObject;
 
-    TimeRow(const EntityDescription &entity, ManagedObjectContext &context, qint64 id)
-        : StoredObject(entity, context, id)
-    {
-    }
-    [[nodiscard]] static EntityDescription description();
-
-    [[nodiscard]] std::optional<float> time() const { return floatAt(0); } ///< hours.minutes: 7:05 is 7.05
-    void setTime(std::optional<float> value) { setFloatAt(0, value); }
-    [[nodiscard]] std::optional<bool> compleate() const { return flagAt(1); }
-    void setCompleate(std::optional<bool> value) { setIntegerAt(1, value); }
-    [[nodiscard]] std::optional<bool> remind() const { return flagAt(2); }
-    void setRemind(std::optional<bool> value) { setIntegerAt(2, value); }
-    [[nodiscard]] std::optional<QDateTime> reminderDate() const { return dateAt(3); }
-    void setReminderDate(const std::optional<QDateTime> &value) { setDateAt(3, value); }
-    [[nodiscard]] std::optional<bool> userCreated() const { return flagAt(4); }
-    void setUserCreated(std::optional<bool> value) { setIntegerAt(4, value); }
-    [[nodiscard]] QString otherTimeObject() const { return textAt(5); }
-    void setOtherTimeObject(const QString &value) { setTextAt(5, value); }
+    [[nodiscard]] std::optional<float> time() const { return get<"time">(); } ///< hours.minutes: 7:05 is 7.05
+    void setTime(std::optional<float> value) { set<"time">(value); }
+    [[nodiscard]] std::optional<bool> compleate() const { return get<"compleate">(); }
+    void setCompleate(std::optional<bool> value) { set<"compleate">(value); }
+    [[nodiscard]] std::optional<bool> remind() const { return get<"remind">(); }
+    void setRemind(std::optional<bool> value) { set<"remind">(value); }
+    [[nodiscard]] std::optional<QDateTime> reminderDate() const { return get<"reminderDate">(); }
+    void setReminderDate(const std::optional<QDateTime> &value) { set<"reminderDate">(value); }
+    [[nodiscard]] std::optional<bool> userCreated() const { return get<"userCreated">(); }
+    void setUserCreated(std::optional<bool> value) { set<"userCreated">(value); }
+    [[nodiscard]] QString otherTimeObject() const { return get<"otherTimeObject">(); }
+    void setOtherTimeObject(const QString &value) { set<"otherTimeObject">(value); }
 
     [[nodiscard]] JornalDay *joranlDay() const;
     void setJoranlDay(JornalDay *value);

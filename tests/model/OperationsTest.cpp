@@ -25,8 +25,8 @@ namespace
 class OperationsTest : public testing::Test
 {
 protected:
-    explicit OperationsTest(const QString &language = QStringLiteral("ru"))
-        : platform_({.language = language})
+    explicit OperationsTest(const QString &language = QStringLiteral("ru"), const QString &resources = {})
+        : platform_({.resourcesFolder = resources, .language = language})
     {
         reopen();
     }
@@ -237,6 +237,33 @@ TEST_P(IngredientsTest, AreThoseOfTheLanguageInTheirOrder)
     for (const Ingredient *line : dish.ingredients())
         names.append(line->name());
     EXPECT_EQ(names.join(u' ').remove(QLatin1String(GetParam())), QStringLiteral("0 1 2 10"));
+}
+
+class WithoutTextsTest : public OperationsTest
+{
+protected:
+    WithoutTextsTest()
+        : OperationsTest(QStringLiteral("en"), QStringLiteral("/no such folder"))
+    {
+    }
+};
+
+TEST_F(WithoutTextsTest, DishesShowTheirRussianTexts)
+{
+    std::vector<Dish *> dishes;
+    for (const char *name : {"Щи", "Борщ"}) {
+        auto &dish = context_->insert<Dish>();
+        dish.setNameRU(QString::fromUtf8(name));
+        context_->insert<Ingredient>().setDishRU(&dish);
+        dishes.push_back(&dish);
+    }
+    LogCapture log;
+    Dish::sortByDisplayName(dishes);
+    EXPECT_EQ(dishes.front()->displayName(), QStringLiteral("Борщ"));
+    EXPECT_EQ(dishes.back()->ingredients().size(), 1U);
+    EXPECT_EQ(log.lines(),
+              (QStringList{QStringLiteral("Dish has no name - nameKey"), QStringLiteral("Dish has no name - nameKey"),
+                           QStringLiteral("Dish has no ingredients - ingKey")}));
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, IngredientsTest, testing::Values("ru", "en"));

@@ -1,4 +1,5 @@
 #include "objectgraph/GraphTest.h"
+#include "platform/objectgraph/StoreRefusal.h"
 
 #include <QDir>
 #include <QFile>
@@ -6,6 +7,7 @@
 
 #include <sqlite3.h>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace kesto::test
@@ -14,7 +16,7 @@ namespace kesto::test
 namespace
 {
 
-using testing::ElementsAre;
+constexpr int kForeign = static_cast<int>(StoreRefusal::ForeignDatabase);
 
 /// Everything in a folder, by name.
 std::map<QString, QByteArray> contents(const QString &folder)
@@ -51,12 +53,16 @@ protected:
         return result;
     }
     /// Tries to attach a file: it is refused with a reason, and nothing in the folder is another than before.
-    void expectRefused(const QString &file, const char *reason)
+    void expectRefused(const QString &file, const char *reason, std::initializer_list<int> codes,
+                       const ManagedObjectModel &model = peopleModel())
     {
         const auto before = contents(folder_.path());
         {
-            OpenGraph refused(file);
+            OpenGraph refused(file, model);
             EXPECT_FALSE(refused.attached);
+            EXPECT_EQ(refused.error.where, file);
+            EXPECT_THAT(codes,
+                        testing::Contains(refused.error.code > 0 ? refused.error.code & 0xff : refused.error.code));
             EXPECT_TRUE(refused.error.message().contains(QString::fromUtf8(reason)))
                 << refused.error.message().toStdString();
             EXPECT_TRUE(refused.coordinator.persistentStorePath().isNull());
@@ -118,7 +124,7 @@ TEST_F(StoreFileTest, AnOlderFileGetsWhatItLacksAndKeepsItsRows)
         {
             OpenGraph older(folder + QStringLiteral("/older.sqlite"), olderModel());
             EXPECT_FALSE(older.attached);
-            EXPECT_TRUE(older.error.message().contains(QStringLiteral("newer version")));
+            EXPECT_EQ(older.error.code, static_cast<int>(StoreRefusal::NewerModel));
         }
         EXPECT_EQ(before, contents(folder));
     };
@@ -149,9 +155,9 @@ TEST_F(StoreFileTest, WhatIsNotOursIsRefusedAndUntouched)
     ASSERT_GT(whole.size(), 40'000);
 
     runSql(path("foreign.sqlite"), "CREATE TABLE Person (name TEXT); INSERT INTO Person VALUES ('x')");
-    expectRefused(path("foreign.sqlite"), "another program");
+    expectRefused(path("foreign.sqlite"), "another program", {kForeign});
     runSql(path("foreign-wal.sqlite"), "PRAGMA journal_mode=WAL; CREATE TABLE t (x); PRAGMA user_version=1");
-    expectRefused(path("foreign-wal.sqlite"), "another program");
+    expectRefused(path("foreign-wal.sqlite"), "another program", {kForeign});
     // A foreign program that was killed: its log is not ours to move.
     {
         sqlite3 *database = nullptr;
@@ -163,20 +169,101 @@ TEST_F(StoreFileTest, WhatIsNotOursIsRefusedAndUntouched)
         sqlite3_close(database);
     }
     ASSERT_GT(QFileInfo(path("killed.sqlite-wal")).size(), 0);
-    expectRefused(path("killed.sqlite"), "another program");
+    expectRefused(path("killed.sqlite"), "another program", {kForeign});
 
     writeBytes(path("garbage.sqlite"), QByteArray(5000, 'g'));
-    expectRefused(path("garbage.sqlite"), "not a database");
+    expectRefused(path("garbage.sqlite"), "not a database", {SQLITE_NOTADB});
     writeBytes(path("stub.sqlite"), whole.left(50));
-    expectRefused(path("stub.sqlite"), "");
+    expectRefused(path("stub.sqlite"), "", {SQLITE_CORRUPT, SQLITE_NOTADB});
     for (const qsizetype size : {qsizetype(600), qsizetype(4096), qsizetype(4096 * 3), whole.size() - 4096}) {
         writeBytes(path("cut.sqlite"), whole.left(size));
-        expectRefused(path("cut.sqlite"), "");
+        expectRefused(path("cut.sqlite"), "", {SQLITE_CORRUPT, SQLITE_NOTADB});
     }
     QDir(folder_.path()).mkdir(QStringLiteral("folder.sqlite"));
-    expectRefused(path("folder.sqlite"), "");
-    expectRefused(path("missing/store.sqlite"), "");
-    expectRefused(path("garbage.sqlite/store.sqlite"), "");
+    expectRefused(path("folder.sqlite"), "", {SQLITE_CANTOPEN});
+    expectRefused(path("missing/store.sqlite"), "", {SQLITE_CANTOPEN});
+    expectRefused(path("garbage.sqlite/store.sqlite"), "", {SQLITE_CANTOPEN});
+}
+
+TEST_F(StoreFileTest, AFileThatWasNotClosedIsCheckedBeforeItIsUsed)
+{
+    {
+        OpenGraph ours(path("ours.sqlite"));
+        for (int i = 0; i < 100; ++i)
+            ours.insert("Person", {{"name", QString(500, u'x')}});
+        ASSERT_TRUE(ours.save());
+        (void)ours.coordinator.access()->execute("PRAGMA wal_checkpoint(TRUNCATE)");
+        ours.insert("Person", {{"name", QStringLiteral("Anna")}});
+        ASSERT_TRUE(ours.save());
+        for (const char *suffix : {"", "-wal"})
+            writeBytes(path("killed.sqlite") + QString::fromUtf8(suffix),
+                       bytesOf(path("ours.sqlite") + QString::fromUtf8(suffix)));
+    }
+    QByteArray bytes = bytesOf(path("killed.sqlite"));
+    std::fill(bytes.end() - 4096, bytes.end(), 'x'); // a page of rows
+    writeBytes(path("killed.sqlite"), bytes);
+    expectRefused(path("killed.sqlite"), "", {SQLITE_CORRUPT, static_cast<int>(StoreRefusal::Damaged)});
+    for (const char *suffix : {"", "-wal"}) // whole again
+        QFile::remove(path("killed.sqlite") + QString::fromUtf8(suffix));
+    QFile::rename(path("ours.sqlite"), path("killed.sqlite"));
+    OpenGraph whole(path("killed.sqlite"));
+    EXPECT_NE(whole.find("Person", "Anna"), nullptr);
+}
+
+TEST_F(StoreFileTest, AChangedModelNeedsAHigherVersion)
+{
+    reopen();
+    (void)person("Anna");
+    save();
+    EXPECT_FALSE(graph().coordinator.access()->execute("SELECT \"nickname\" FROM Person")) << "it is no text";
+    graph_.reset();
+    const auto changed = [](const AttributeDescription &age, int version) {
+        return std::make_unique<ManagedObjectModel>(
+            "People", version,
+            std::vector{EntityDescription("Person", {{"name", AttributeType::String, true}, age}, {})});
+    };
+    const AttributeDescription added{"nickname", AttributeType::String};
+    const AttributeDescription text{"age", AttributeType::String};
+    for (const AttributeDescription &attribute : {added, text})
+        expectRefused(path(), "its version is still 2", {static_cast<int>(StoreRefusal::SchemaChanged)},
+                      *changed(attribute, 2));
+    // A file of before fingerprints were kept tells its columns only.
+    runSql(path(), "DROP TABLE \"_state\"");
+    expectRefused(path(), "Person.nickname is not in the file", {static_cast<int>(StoreRefusal::SchemaChanged)},
+                  *changed(added, 2));
+    const auto higher = changed(added, 3);
+    OpenGraph newer(path(), *higher);
+    EXPECT_NE(newer.find("Person", "Anna"), nullptr);
+}
+
+TEST_F(StoreFileTest, OnlyItsOwnerCanReadAStore)
+{
+    const auto mode = [](const QString &file) {
+        return QFile::permissions(file) &
+               (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther | QFile::ExeOwner);
+    };
+    writeBytes(path("old.sqlite"), {});
+    QFile::setPermissions(path("old.sqlite"),
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+    const mode_t before = ::umask(0);
+    SqlStore::makeFile(path("new.sqlite"));
+    EXPECT_EQ(mode(path("new.sqlite")), 0) << "from the first moment on";
+    for (const char *name : {"old.sqlite", "new.sqlite"}) {
+        OpenGraph graph(path(name));
+        graph.insert("Person", {});
+        ASSERT_TRUE(graph.save());
+        const QString target = path("moved to ") + QString::fromUtf8(name);
+        const auto moved = graph.coordinator.migratePersistentStore(target, {}, [&]() -> Result<void> {
+            EXPECT_EQ(mode(target), 0);
+            return {};
+        });
+        EXPECT_TRUE(moved);
+        graph.insert("Person", {});
+        ASSERT_TRUE(graph.save());
+        for (const QString &file : files())
+            EXPECT_EQ(mode(folder_.filePath(file)), 0) << file.toStdString();
+    }
+    ::umask(before);
 }
 
 TEST_F(StoreFileTest, AnEmptyFileAndAnotherNameBecomeAStore)
@@ -204,8 +291,8 @@ TEST_F(StoreFileTest, AFolderThatCanNotBeWrittenIsRefused)
     }
     if (::geteuid() != 0) {
         QFile::setPermissions(folder_.path(), QFile::ReadOwner | QFile::ExeOwner);
-        expectRefused(path(), "");
-        expectRefused(path("new.sqlite"), "");
+        expectRefused(path(), "", {SQLITE_CANTOPEN, SQLITE_READONLY});
+        expectRefused(path("new.sqlite"), "", {SQLITE_CANTOPEN});
         QFile::setPermissions(folder_.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
     // The same for a user whom nothing stops: a disk that takes nothing.
@@ -260,7 +347,7 @@ TEST_F(StoreFileTest, OnlyOneConnectionUsesAFile)
     save();
     OpenGraph second(path());
     EXPECT_FALSE(second.attached);
-    EXPECT_TRUE(second.error.message().contains(QStringLiteral("in use"))) << second.error.message().toStdString();
+    EXPECT_EQ(second.error.code & 0xff, SQLITE_BUSY) << second.error.message().toStdString();
     // A refused file leaves the one that is attached; another one takes its place.
     EXPECT_FALSE(graph().coordinator.addPersistentStore(path("missing/x"), {}));
     EXPECT_NE(graph().find("Person", "Anna"), nullptr);

@@ -4,6 +4,7 @@
 #include "model/Dish.h"
 #include "model/DishInDietDay.h"
 #include "model/DishesCategory.h"
+#include "model/JornalDay.h"
 #include "model/TimeRow.h"
 #include "recipes/DishDetailViewController.h"
 #include "recipes/ImageViewController.h"
@@ -218,13 +219,18 @@ TEST(DishDetail, DeletesADishOfTheUserWithItsPlacesAndNothingElse)
     DishScreen at;
     at.dish.setUserCreated(false); // any value counts
     auto &row = at.context().insert<TimeRow>();
+    auto &journal = at.context().insert<JornalDay>();
+    journal.addTimeRows(row);
     for (int i = 0; i < 3; ++i) {
         auto &planned = at.context().insert<DishInDietDay>();
         planned.setDish(&at.dish);
         if (i == 0)
             row.addDishesInDietDay(planned);
-        else
-            DietDay::dietDatWithDate(at.platform.date(2024, 3, i), at.context()).value()->addDishes(planned);
+        else {
+            DietDay *day = DietDay::dietDatWithDate(at.platform.date(2024, 3, i), at.context()).value();
+            day->addDishes(planned);
+            day->setJornalDay(&journal);
+        }
     }
     FavoritesManager::sharedManager().addDishToFavorite(at.dish);
     at.open();

@@ -1,7 +1,5 @@
 #include "platform/objectgraph/AttributeValue.h"
 
-#include <QDateTime>
-
 #include <cmath>
 #include <limits>
 
@@ -34,7 +32,7 @@ bool isNumber(const QVariant &value)
     }
 }
 
-/// The whole number that a number is, if it is one that fits.
+/// Nothing if the number has a fraction or does not fit.
 std::optional<qint64> wholeNumber(const QVariant &value)
 {
     switch (value.typeId()) {
@@ -48,7 +46,7 @@ std::optional<qint64> wholeNumber(const QVariant &value)
     case QMetaType::Float:
     case QMetaType::Double: {
         const double number = value.toDouble();
-        if (std::abs(number) >= 0x1p63 || std::trunc(number) != number) // also what is no number at all
+        if (std::abs(number) >= 0x1p63 || std::trunc(number) != number) // NaN included
             return std::nullopt;
         return static_cast<qint64>(number);
     }

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QString>
 #include <QVariant>
 
 #include <optional>
+#include <type_traits>
 #include <variant>
 
 namespace kesto
@@ -14,14 +16,36 @@ namespace kesto
 /// precision numbers are kept widened.
 enum class AttributeType { Float, Integer, UnsignedInteger, Boolean, String, Date, Data };
 
-/// One stored value; monostate is absent.
+/// The type of an attribute whose values have a C++ type.
+template <class T>
+[[nodiscard]] consteval AttributeType attributeTypeOf()
+{
+    if constexpr (std::is_same_v<T, float>)
+        return AttributeType::Float;
+    else if constexpr (std::is_same_v<T, int>)
+        return AttributeType::Integer;
+    else if constexpr (std::is_same_v<T, quint32>)
+        return AttributeType::UnsignedInteger;
+    else if constexpr (std::is_same_v<T, bool>)
+        return AttributeType::Boolean;
+    else if constexpr (std::is_same_v<T, QString>)
+        return AttributeType::String;
+    else if constexpr (std::is_same_v<T, QDateTime>)
+        return AttributeType::Date;
+    else {
+        static_assert(std::is_same_v<T, QByteArray>, "the store has no such type");
+        return AttributeType::Data;
+    }
+}
+
+/// One stored value; monostate means absent.
 using AttributeValue = std::variant<std::monostate, qint64, double, QString, QByteArray>;
 
-/// A value for an attribute of a type. An invalid variant is absent; nothing when the variant can't be such a value:
-/// numbers of any kind fit where their value does, everything else is of its own type only.
+/// The value to store for a variant. An invalid variant gives an absent value. Nothing if the variant does not fit the
+/// type: a number of any kind fits if its value does, any other value must have exactly the attribute's type.
 [[nodiscard]] std::optional<AttributeValue> attributeValue(AttributeType type, const QVariant &value);
 
-/// Whether an attribute of a type can be compared with a value: a number with a number of any kind, and so on.
+/// Whether a value can be compared with attributes of a type. All kinds of numbers can be compared with each other.
 [[nodiscard]] bool isOfType(AttributeType type, const AttributeValue &value);
 
 /// The variant of a stored value: float, qint64, quint32, bool, QString, QDateTime (UTC) or QByteArray by type.

@@ -16,7 +16,7 @@ const std::string &columnName(const EntityDescription &entity, PropertyReference
                                                                : entity.toOneRelationships()[slot].name;
 }
 
-/// A path taken apart: the entity and the property it ends at, behind a to-one relationship or not.
+/// A key path: an optional to-one relationship, then a property of the entity that it leads to.
 struct ResolvedPath
 {
     const RelationshipDescription *relationship = nullptr;
@@ -40,7 +40,7 @@ ResolvedPath resolve(const EntityDescription &entity, std::string_view path)
     return resolved;
 }
 
-/// SQL would convert between types where memory does not.
+/// Comparisons between different types are refused: SQL would convert the values, the comparison in memory would not.
 bool canCompare(const Predicate::Node &node, const EntityDescription &entity, PropertyReference property)
 {
     using Operation = Predicate::Operation;

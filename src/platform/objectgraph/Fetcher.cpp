@@ -36,10 +36,8 @@ tl::unexpected<Error> noStore(const EntityDescription &entity)
 std::string Fetcher::columns(const EntityDescription &entity)
 {
     std::string list = "\"_pk\"";
-    for (const AttributeDescription &attribute : entity.attributes())
-        list += ", " + quoted(attribute.name);
-    for (const RelationshipDescription &relationship : entity.toOneRelationships())
-        list += ", " + quoted(relationship.name);
+    for (int column = 0; column < entity.columnCount(); ++column)
+        list += ", " + quoted(entity.columnName(column));
     return list;
 }
 
@@ -63,13 +61,13 @@ Result<void> Fetcher::readObjects(SqlStatement &statement, const EntityDescripti
 
 Result<std::vector<ManagedObject *>> Fetcher::fetch(const EntityDescription &entity, const FetchRequest &request)
 {
-    // What is fetched along is found through the values of every row, so those are read at once.
+    // Prefetching needs the values of every row, so it excludes reading them later.
     const bool keysOnly = request.fetchBatchSize > 0 && request.relationshipKeyPathsForPrefetching.empty();
     const FetchStatement statement(entity, request, keysOnly);
     if (!statement.isValid())
         return failure(QStringLiteral("cannot fetch"), {}, QString::fromStdString(statement.problem()));
     const size_t unsaved = context_.objectsOf(entity).changed.size();
-    // Where the condition looks at other objects that have unsaved changes, the store can't decide it.
+    // A predicate that follows a relationship to an entity with unsaved changes can only be evaluated in memory.
     const bool everything =
         std::any_of(statement.otherEntities().begin(), statement.otherEntities().end(),
                     [&](const EntityDescription *other) { return !context_.objectsOf(*other).changed.empty(); });
@@ -109,7 +107,7 @@ Result<std::vector<ManagedObject *>> Fetcher::readRows(const FetchStatement &req
                                      : context_.materialise(entity, statement));
             if (found.back() == nullptr)
                 break;
-            // The last row that may come needs no look behind it.
+            // Saves the step that would only find the end.
             result = static_cast<qint64>(found.size()) == limit ? SQLITE_DONE : statement.step();
         }
     }
@@ -159,7 +157,8 @@ Result<void> Fetcher::readFaults(const EntityDescription &entity, const std::vec
     return readObjects(statement, entity, [](ManagedObject * /*read*/) {});
 }
 
-// What the store says, less what changed in memory since; what was added in memory stands in the set already.
+// Combines the rows with the unsaved changes: objects that left the set in memory are dropped, those that joined it are
+// kept.
 void Fetcher::adopt(ManagedObject &owner, const RelationshipDescription &relationship,
                     std::vector<ManagedObject *> rows)
 {
@@ -208,7 +207,7 @@ Result<void> Fetcher::prefetchToMany(const EntityDescription &destination,
     key.append(static_cast<char>(destination.index()));
     for (const RelationshipDescription *relationship : relationships)
         key.append(static_cast<char>(relationship->inverseSlot));
-    // One part a relationship, which each row names behind its columns: every part can use its own index.
+    // One SELECT for each relationship, so that each uses its own index. The last column says which one.
     SqlStatement statement = store_->statement(key, [&] {
         std::string sql;
         for (size_t i = 0; i < relationships.size(); ++i) {

@@ -104,7 +104,7 @@ bool ManagedObject::canLink(const RelationshipDescription &relationship, Managed
     return unreadable == nullptr;
 }
 
-// The other side follows. A to-many side only needs the change in memory: its rows are found through this side.
+// Keeps the inverse in step. A to-many inverse changes in memory only: its rows are found through this side's column.
 void ManagedObject::link(const RelationshipDescription &relationship, ManagedObject *object)
 {
     if (relationship.inverseToMany)
@@ -117,7 +117,7 @@ void ManagedObject::unlink(const RelationshipDescription &relationship, ManagedO
 {
     if (relationship.inverseToMany) {
         auto &members = object->toMany_[relationship.inverseSlot].members;
-        // Lists are mostly taken down from the end or from the front.
+        // Most objects are removed at the end or at the front.
         if (!members.empty() && members.back() == this)
             members.pop_back();
         else if (const auto found = std::find(members.begin(), members.end(), this); found != members.end())

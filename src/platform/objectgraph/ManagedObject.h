@@ -4,11 +4,8 @@
 #include "platform/objectgraph/AttributeValue.h"
 #include "platform/objectgraph/ManagedObjectModel.h"
 
-#include <QDateTime>
 #include <QList>
 
-#include <array>
-#include <optional>
 #include <vector>
 
 namespace kesto
@@ -89,7 +86,7 @@ private:
     friend class Fetcher;
     friend class Saver;
 
-    /// Fault: the row's values are not read yet. Gone: deleted and saved, or deleted before it was ever saved.
+    /// Fault: the row's values have not been read. Gone: the deletion was saved, or there never was a row.
     enum class State : quint8 { Fault, Clean, Inserted, Updated, Deleted, Gone };
 
     /// Reads the values unless they are there. False when they can't be read.
@@ -113,88 +110,6 @@ private:
     AttributeValue *values_ = nullptr;
     ToOneLink *toOne_ = nullptr;
     ToManyLink *toMany_ = nullptr;
-};
-
-/// Base of the entity classes: storage for its numbers of attributes, to-one and to-many relationships in the object
-/// itself.
-template <size_t Attributes, size_t ToOnes, size_t ToManys>
-class StoredObject : public ManagedObject
-{
-protected:
-    StoredObject(const EntityDescription &entity, ManagedObjectContext &context, qint64 id)
-        : ManagedObject(entity, context, id)
-    {
-        useStorage(values_.data(), toOne_.data(), toMany_.data());
-    }
-
-    [[nodiscard]] std::optional<float> floatAt(int slot) const
-    {
-        const auto *number = std::get_if<double>(&attributeAt(slot));
-        return number != nullptr ? std::optional(static_cast<float>(*number)) : std::nullopt;
-    }
-    template <class T>
-    [[nodiscard]] std::optional<T> integerAt(int slot) const
-    {
-        const auto *number = std::get_if<qint64>(&attributeAt(slot));
-        return number != nullptr ? std::optional(static_cast<T>(*number)) : std::nullopt;
-    }
-    [[nodiscard]] std::optional<bool> flagAt(int slot) const
-    {
-        const auto *number = std::get_if<qint64>(&attributeAt(slot));
-        return number != nullptr ? std::optional(*number != 0) : std::nullopt;
-    }
-    [[nodiscard]] QString textAt(int slot) const
-    {
-        const auto *text = std::get_if<QString>(&attributeAt(slot));
-        return text != nullptr ? *text : QString();
-    }
-    [[nodiscard]] std::optional<QDateTime> dateAt(int slot) const
-    {
-        const auto *number = std::get_if<qint64>(&attributeAt(slot));
-        return number != nullptr ? std::optional(QDateTime::fromMSecsSinceEpoch(*number, Qt::UTC)) : std::nullopt;
-    }
-    [[nodiscard]] std::optional<QByteArray> bytesAt(int slot) const
-    {
-        const auto *bytes = std::get_if<QByteArray>(&attributeAt(slot));
-        return bytes != nullptr ? std::optional(*bytes) : std::nullopt;
-    }
-
-    void setFloatAt(int slot, std::optional<float> value)
-    {
-        setAttribute(slot, value ? AttributeValue(static_cast<double>(*value)) : AttributeValue());
-    }
-    template <class T>
-    void setIntegerAt(int slot, std::optional<T> value)
-    {
-        setAttribute(slot, value ? AttributeValue(static_cast<qint64>(*value)) : AttributeValue());
-    }
-    void setTextAt(int slot, const QString &value)
-    {
-        setAttribute(slot, value.isNull() ? AttributeValue() : AttributeValue(value));
-    }
-    void setDateAt(int slot, const std::optional<QDateTime> &value)
-    {
-        setAttribute(slot, value && value->isValid() ? AttributeValue(value->toMSecsSinceEpoch()) : AttributeValue());
-    }
-    void setBytesAt(int slot, const std::optional<QByteArray> &value)
-    {
-        setAttribute(slot, value ? AttributeValue(*value) : AttributeValue());
-    }
-    template <class T>
-    [[nodiscard]] std::vector<T *> objectsAt(int slot) const
-    {
-        std::vector<T *> typed;
-        const std::vector<ManagedObject *> members = toMany(slot);
-        typed.reserve(members.size());
-        for (ManagedObject *member : members)
-            typed.push_back(static_cast<T *>(member));
-        return typed;
-    }
-
-private:
-    std::array<AttributeValue, Attributes> values_;
-    std::array<ToOneLink, ToOnes> toOne_;
-    std::array<ToManyLink, ToManys> toMany_;
 };
 
 } // namespace kesto

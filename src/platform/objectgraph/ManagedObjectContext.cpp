@@ -20,8 +20,8 @@ namespace kesto
 namespace
 {
 
-/// Where keys begin while the store can't say which ones it has: far from all of them, so that the objects can be
-/// saved when it can.
+/// The first key for objects that are inserted while the store can't be read: far above the keys in use, so that the
+/// objects can be saved later.
 qint64 keyWithoutStore() { return (qint64(1) << 60) + (qint64(QRandomGenerator::system()->generate()) << 24); }
 
 } // namespace
@@ -129,7 +129,7 @@ void ManagedObjectContext::deleteObject(ManagedObject &object)
         unlinkAndDelete(object);
 }
 
-// Reads nothing any more, so it can't fail half-way.
+// Everything concerned has been read, so this can't fail half-way.
 void ManagedObjectContext::unlinkAndDelete(ManagedObject &object)
 {
     if (object.isDeleted())
@@ -183,7 +183,7 @@ ManagedObject *ManagedObjectContext::materialise(const EntityDescription &entity
     int column = 1;
     for (size_t slot = 0; slot < attributes; ++slot, ++column) {
         AttributeValue &value = object->values_[slot];
-        sqlite3_value *stored = sqlite3_column_value(statement, column); // found once, asked for its type and content
+        sqlite3_value *stored = sqlite3_column_value(statement, column);
         switch (sqlite3_value_type(stored)) {
         case SQLITE_INTEGER:
             value.emplace<qint64>(sqlite3_value_int64(stored));
@@ -243,7 +243,7 @@ void ManagedObjectContext::fireFault(ManagedObject &object)
         noteFailedRead(object, std::move(read.error()));
         return;
     }
-    // Another row points to one that is not in the file.
+    // A dangling reference: the file has no such row.
     log("%@ %ld is not in the store", QString::fromStdString(object.entity().name()), object.id_);
     object.state_ = ManagedObject::State::Gone;
     objects.registered.remove(object.id_);
@@ -357,7 +357,7 @@ bool ManagedObjectContext::hasChanges() const
     });
 }
 
-// A long log is moved into the file when the event loop has nothing better to do, not while a save makes somebody wait.
+// Moves a long log into the file when the event loop is idle, so that no save has to wait for it.
 void ManagedObjectContext::checkpointLater()
 {
     if (checkpointPending_ || QCoreApplication::instance() == nullptr)

@@ -2,6 +2,7 @@
 
 #include "platform/objectgraph/ManagedObject.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace kesto
@@ -37,6 +38,29 @@ int position(const List &list, std::string_view name)
             return static_cast<int>(i);
     }
     return -1;
+}
+
+/// FNV-1a: the same in every build and on every machine, which std::hash is not.
+qint64 hash(std::string_view text)
+{
+    quint64 value = 0xcbf29ce484222325;
+    for (const char byte : text)
+        value = (value ^ static_cast<unsigned char>(byte)) * 0x100000001b3;
+    return static_cast<qint64>(value);
+}
+
+/// Everything about an entity that its table depends on, one line each.
+void addSchema(const EntityDescription &entity, std::vector<std::string> &lines)
+{
+    const std::string start = entity.name() + '.';
+    for (const AttributeDescription &attribute : entity.attributes())
+        lines.push_back(start + attribute.name + ' ' + std::to_string(static_cast<int>(attribute.type)) +
+                        (attribute.indexed ? " indexed" : ""));
+    for (const auto *list : {&entity.toOneRelationships(), &entity.toManyRelationships()}) {
+        for (const RelationshipDescription &relationship : *list)
+            lines.push_back(start + relationship.name + (relationship.toMany ? " >> " : " > ") +
+                            relationship.destination + '.' + relationship.inverse);
+    }
 }
 
 } // namespace
@@ -77,6 +101,12 @@ const RelationshipDescription *EntityDescription::relationship(std::string_view 
     return &list[static_cast<size_t>(reference->slot)];
 }
 
+const std::string &EntityDescription::columnName(int column) const
+{
+    const auto index = static_cast<size_t>(column);
+    return index < attributes_.size() ? attributes_[index].name : toOne_[index - attributes_.size()].name;
+}
+
 std::unique_ptr<ManagedObject> EntityDescription::make(ManagedObjectContext &context, qint64 id) const
 {
     if (factory_ != nullptr)
@@ -107,6 +137,14 @@ ManagedObjectModel::ManagedObjectModel(std::string name, int version, std::vecto
             }
         }
     }
+    std::vector<std::string> lines;
+    for (const EntityDescription &each : entities_)
+        addSchema(each, lines);
+    std::sort(lines.begin(), lines.end());
+    std::string schema;
+    for (const std::string &line : lines)
+        schema += line + '\n';
+    fingerprint_ = hash(schema);
 }
 
 const EntityDescription *ManagedObjectModel::entity(std::string_view name) const

@@ -36,6 +36,7 @@ struct RelationshipDescription
     std::string inverse;     ///< name of the relationship that leads back
     bool toMany = false;
     DeleteRule deleteRule = DeleteRule::Nullify;
+    bool owner = false; ///< of a to-one: an object that none of its owners has can't be reached any more
 
     // Set when the model is put together.
     const EntityDescription *destinationEntity = nullptr;
@@ -76,6 +77,7 @@ public:
     [[nodiscard]] const RelationshipDescription *relationship(std::string_view name) const;
     /// Attributes, then to-one relationships: the order of the columns behind the key.
     [[nodiscard]] int columnCount() const { return static_cast<int>(attributes_.size() + toOne_.size()); }
+    [[nodiscard]] const std::string &columnName(int column) const;
     [[nodiscard]] std::unique_ptr<ManagedObject> make(ManagedObjectContext &context, qint64 id) const;
 
 private:
@@ -94,14 +96,17 @@ private:
 class ManagedObjectModel
 {
 public:
-    /// version grows with every change of the entities; a file remembers the version that last wrote it. Throws
-    /// std::invalid_argument when an inverse is missing or both sides are to-many: the model is part of the program.
+    /// version grows with every change of what the entities store; a file remembers the version and the fingerprint
+    /// that last wrote it. Throws std::invalid_argument when an inverse is missing or both sides are to-many: the model
+    /// is part of the program.
     ManagedObjectModel(std::string name, int version, std::vector<EntityDescription> entities);
     ManagedObjectModel(const ManagedObjectModel &) = delete;
     ManagedObjectModel &operator=(const ManagedObjectModel &) = delete;
 
     [[nodiscard]] const std::string &name() const { return name_; }
     [[nodiscard]] int version() const { return version_; }
+    /// A number that is another one when an entity, an attribute, its type or index, or a relationship is another one.
+    [[nodiscard]] qint64 fingerprint() const { return fingerprint_; }
     [[nodiscard]] const std::vector<EntityDescription> &entities() const { return entities_; }
     /// Null when there is none.
     [[nodiscard]] const EntityDescription *entity(std::string_view name) const;
@@ -110,6 +115,7 @@ public:
 private:
     std::string name_;
     int version_;
+    qint64 fingerprint_ = 0;
     std::vector<EntityDescription> entities_;
 };
 

@@ -1,5 +1,6 @@
 #include "platform/objectgraph/PersistentStoreCoordinator.h"
 
+#include "platform/Log.h"
 #include "platform/objectgraph/SqlStore.h"
 
 #include <QFile>
@@ -8,9 +9,12 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
 
+#include <array>
+#include <cerrno>
 #include <chrono>
 #include <filesystem>
 #include <optional>
+#include <system_error>
 
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
@@ -30,40 +34,57 @@ tl::unexpected<Error> alreadyMoving(const QString &path)
     return failure(QStringLiteral("cannot use another store"), path,
                    QStringLiteral("the store is being moved to another file"));
 }
-constexpr int kPagesPerStep = 64; // a quarter of a megabyte: a writer waits a millisecond at most
+constexpr int kPagesPerStep = 64; // a quarter of a megabyte: a writer waits for about a millisecond
 
-/// Makes a rename last over a loss of power.
-void syncFolderOf(const QString &path)
+/// Makes a rename survive a power loss.
+Result<void> syncFolderOf(const QString &path)
 {
 #ifdef Q_OS_UNIX
     const int folder = ::open(QFile::encodeName(QFileInfo(path).absolutePath()).constData(), O_RDONLY | O_CLOEXEC);
-    if (folder < 0)
-        return;
-    (void)::fsync(folder); // some file systems refuse, there it is not needed
-    ::close(folder);
+    // EINVAL: the file system can't sync folders.
+    const int code = folder < 0 || (::fsync(folder) != 0 && errno != EINVAL) ? errno : 0;
+    if (folder >= 0)
+        ::close(folder);
+    if (code != 0)
+        return failure(kCannotMove, path, QString::fromStdString(std::generic_category().message(code)), code);
 #else
     Q_UNUSED(path)
 #endif
+    return {};
 }
+
+/// Files that SQLite may leave beside a database.
+constexpr std::array companions{"-wal", "-shm", "-journal"};
 
 void removeWithLog(const QString &path)
 {
-    for (const char *suffix : {"-wal", "-shm", "-journal", ""})
+    for (const char *suffix : companions)
         QFile::remove(path + QLatin1String(suffix));
+    QFile::remove(path);
 }
 
-/// Puts a finished copy in the target's place. A log that a killed process left beside the target goes first: SQLite
-/// would replay it into the new file. Until the rename the source is the complete file, from then on the target.
+/// Ends a move that failed after its target was installed.
+void removeTarget(const QString &path)
+{
+    removeWithLog(path);
+    if (auto synced = syncFolderOf(path); !synced)
+        log(synced.error().message());
+}
+
+/// Puts a finished copy in the target's place. First removes a log that a killed process left beside the target,
+/// because SQLite would replay it into the new file.
 Result<void> install(const QString &temporary, const QString &path)
 {
-    for (const char *suffix : {"-wal", "-shm", "-journal"})
-        QFile::remove(path + QLatin1String(suffix));
+    for (const char *suffix : companions) {
+        QFile companion(path + QLatin1String(suffix));
+        if (companion.exists() && !companion.remove())
+            return failure(kCannotMove, companion.fileName(), companion.errorString());
+    }
     std::error_code reason;
     std::filesystem::rename(QFile::encodeName(temporary).toStdString(), QFile::encodeName(path).toStdString(), reason);
     if (reason)
         return failure(kCannotMove, path, QString::fromStdString(reason.message()), reason.value());
-    syncFolderOf(path);
-    return {};
+    return syncFolderOf(path);
 }
 
 } // namespace
@@ -98,15 +119,16 @@ public:
     {
         for (int pages = 0; steps_ != nullptr; pages = kPagesPerStep) {
             {
-                // The first time it only counts. The last page is left for finish(): a backup that is done does not
-                // follow the writers any more.
+                // The first call, for 0 pages, only counts them. The last ones are left to finish(), because a backup
+                // that is complete no longer follows the writers.
                 const Access source = coordinator_.access();
                 if (sqlite3_backup_step(steps_, pages) != SQLITE_OK)
                     return false;
                 if (sqlite3_backup_remaining(steps_) <= kPagesPerStep)
                     return true;
             }
-            std::this_thread::sleep_for(std::chrono::microseconds(200)); // the lock is not fair
+            std::this_thread::sleep_for(
+                std::chrono::microseconds(200)); // lets a waiting writer in: the mutex is not fair
         }
         return false;
     }
@@ -245,11 +267,12 @@ Result<void> PersistentStoreCoordinator::copyAndInstall(const QString &temporary
                                                         const PersistentStoreOptions &options,
                                                         const std::function<Result<void>()> &beforeUse)
 {
+    SqlStore::makeFile(temporary);
     std::optional<SQLite::Database> copy(std::in_place, QFile::encodeName(temporary).toStdString(),
                                          SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
     copy->exec("PRAGMA locking_mode=EXCLUSIVE");
     copy->exec("PRAGMA synchronous=FULL");
-    // It reads through the writers' own connection, so that SQLite carries a write made meanwhile into the copy, too.
+    // Reads through the connection that writes, so that SQLite includes what is written meanwhile.
     CopySteps steps(*this, copy->getHandle(), path);
     if (!steps.runUntilNearlyDone())
         return steps.error();
@@ -259,8 +282,11 @@ Result<void> PersistentStoreCoordinator::copyAndInstall(const QString &temporary
     if (copy->execAndGet("PRAGMA quick_check").getString() != "ok")
         return failure(kCannotMove, path, QStringLiteral("the copy is damaged"));
     copy.reset(); // with its lock on the file
-    if (auto installed = install(temporary, path); !installed)
+    if (auto installed = install(temporary, path); !installed) {
+        if (!QFile::exists(temporary)) // renamed, but perhaps not durably
+            removeTarget(path);
         return installed;
+    }
     auto opened = SqlStore::open(path, model_);
     Result<void> usable;
     if (!opened)
@@ -270,7 +296,7 @@ Result<void> PersistentStoreCoordinator::copyAndInstall(const QString &temporary
     if (!usable) {
         if (opened)
             opened->reset(); // closed before its file is removed
-        removeWithLog(path);
+        removeTarget(path);
         return usable;
     }
     store_ = std::move(*opened);

@@ -40,16 +40,17 @@ public:
 
     [[nodiscard]] const ManagedObjectModel &managedObjectModel() const { return model_; }
 
-    /// Runs the work on a background thread with the lock held from before this returns until the work has ended, so
-    /// that no reader gets in between. Call it before the first reader can come.
+    /// Runs the work on a background thread. The lock is held from before this returns until the work has ended, so
+    /// readers wait for it.
     void performLocked(std::function<void()> work);
     /// Runs the work on a background thread of its own, without the lock.
     void perform(std::function<void()> work);
-    /// Until all background work that was given so far has ended.
+    /// Waits until all background work has ended.
     void waitForBackgroundWork();
 
-    /// Attaches a store file, made when missing, in place of the one attached before. When the file can't be used, the
-    /// coordinator keeps what it had.
+    /// Attaches a store file, made when missing, in place of the one attached before. When the file can't be used, it
+    /// is left untouched, the coordinator keeps what it had, and the error names the file; its code is SQLite's or a
+    /// StoreRefusal.
     [[nodiscard]] Result<void> addPersistentStore(const QString &path, const PersistentStoreOptions &options);
 
     /// Moves the content of the attached store to another file and goes on with that one; the old file stays on disk.

@@ -14,15 +14,8 @@ namespace kesto
 namespace
 {
 
-/// Many new rows go in this many to a statement: each statement opens its table and all its indexes.
+/// New rows per INSERT: every statement has to open the table and all its indexes.
 constexpr int kRowsTogether = 16;
-
-const std::string &columnName(const EntityDescription &entity, int column)
-{
-    const auto attributes = static_cast<int>(entity.attributes().size());
-    return column < attributes ? entity.attributes()[static_cast<size_t>(column)].name
-                               : entity.toOneRelationships()[static_cast<size_t>(column - attributes)].name;
-}
 
 } // namespace
 
@@ -98,14 +91,14 @@ const ManagedObject *const *Saver::insertRows(const EntityDescription &entity, i
     QByteArray key("i");
     key.append(static_cast<char>(entity.index())).append(static_cast<char>(rows));
     SqlStatement statement = store_.statement(key, [&] {
-        // By name: a file that was brought up to date has its columns in another order.
+        // Columns by name: in a file of an earlier version they have another order.
         std::string names = "\"_pk\"";
         std::string values = "(?";
         for (int column = 0; column < attributes + toOnes; ++column) {
-            names += ", " + quoted(columnName(entity, column));
+            names += ", " + quoted(entity.columnName(column));
             values += ", ?";
         }
-        // A failure ends the whole transaction; OR FAIL spares SQLite what it would need to undo one statement.
+        // OR FAIL: SQLite need not be able to undo this statement alone, as a failure rolls back the transaction.
         std::string sql = "INSERT OR FAIL INTO " + quoted(entity.name()) + " (" + names + ") VALUES ";
         for (int row = 0; row < rows; ++row)
             sql += (row == 0 ? "" : ", ") + values + ')';
@@ -140,7 +133,7 @@ bool Saver::updateRow(const EntityDescription &entity, const ManagedObject &obje
     SqlStatement statement = store_.statement(key, [&] {
         std::string sql = "UPDATE " + quoted(entity.name()) + " SET ";
         for (quint64 rest = mask; rest != 0; rest &= rest - 1)
-            sql += (rest == mask ? "" : ", ") + quoted(columnName(entity, std::countr_zero(rest))) + " = ?";
+            sql += (rest == mask ? "" : ", ") + quoted(entity.columnName(std::countr_zero(rest))) + " = ?";
         return sql + " WHERE \"_pk\" = ?";
     });
     if (!statement)

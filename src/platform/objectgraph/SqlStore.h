@@ -9,6 +9,7 @@
 
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -66,10 +67,15 @@ class SqlStore
 {
 public:
     /// Opens or makes the file and brings it to the model: what a file of an older version lacks is added, the rest
-    /// stays. Nothing, with the reason, when the file can't be used: it is locked by another process, was written by a
-    /// newer version, is not ours or not a database; it is left untouched then.
+    /// stays. A file that a log lies beside was not closed, so it is checked before it is used. Rows that can't be
+    /// reached any more are deleted. Fails, and leaves the file untouched, when it is damaged, locked by another
+    /// process, written by a newer version or by another program, or when the model was changed without a higher
+    /// version; the error's code is SQLite's or a StoreRefusal.
     [[nodiscard]] static Result<std::unique_ptr<SqlStore>> open(const QString &path, const ManagedObjectModel &model);
     ~SqlStore();
+    /// Makes an empty file that only its owner can read; one that exists stays as it is. SQLite gives its log the same
+    /// permissions.
+    static void makeFile(const QString &path);
 
     [[nodiscard]] const QString &path() const { return path_; }
     [[nodiscard]] sqlite3 *handle() const;
@@ -105,7 +111,14 @@ private:
     SqlStore(QString path, std::unique_ptr<SQLite::Database> database);
     [[nodiscard]] sqlite3_stmt *prepare(const QByteArray &key, const std::string &sql);
     [[nodiscard]] std::optional<Error> prepareFile(const ManagedObjectModel &model);
+    /// Why the file does not hold what this version of the model stores; null when it does.
+    [[nodiscard]] QString differenceFrom(const ManagedObjectModel &model);
+    [[nodiscard]] std::optional<qint64> state(const char *name);
     void bringToModel(const ManagedObjectModel &model);
+    [[nodiscard]] std::set<std::string> columns(const EntityDescription &entity);
+    void rememberKeysInUse(const ManagedObjectModel &model, const EntityDescription &entity);
+    void deleteUnreachable(const ManagedObjectModel &model);
+    [[nodiscard]] int deleteUnreachable(const EntityDescription &entity);
     void startLog();
     static int pagesLogged(void *self, sqlite3 *, const char *, int pages);
 
