@@ -6,14 +6,17 @@
 #include "model/DietModel.h"
 #include "model/Dish.h"
 #include "model/DishesCategory.h"
+#include "model/FoodObject.h"
 #include "model/Ingredient.h"
 #include "model/JornalDay.h"
+#include "model/TimeObject.h"
 #include "model/TimeRow.h"
 #include "platform/objectgraph/ManagedObjectContext.h"
 #include "platform/objectgraph/PersistentStoreCoordinator.h"
 
 #include <QFile>
 
+#include <array>
 #include <random>
 
 namespace kesto::bench
@@ -80,6 +83,41 @@ void mustSave(ManagedObjectContext &context)
         fail(saved.error().message());
 }
 
+/// A day of the journal files: the same in both.
+void insertJornal(int number, const QDateTime &date, ManagedObjectContext &context)
+{
+    constexpr std::array hours{9, 11, 12, 14, 18, 20};
+    constexpr int kinds = 8;
+    auto &day = context.insert<DietDay>();
+    day.setDate(date);
+    day.setWeight(80);
+    auto &journal = context.insert<JornalDay>();
+    day.setJornalDay(&journal);
+    const int rows = kTimeRows * (number + 1) / kDays - kTimeRows * number / kDays;
+    for (int row = 0; row < rows; ++row) {
+        auto &time = context.insert<TimeRow>();
+        time.setTime(static_cast<float>(hours.at(static_cast<size_t>(row))));
+        time.setCompleate(row % 2 == 0);
+        time.setJoranlDay(&journal);
+        auto &item = context.insert<TimeObject>();
+        item.setType(row == 0 ? 0 : row);
+        item.setValue1(2);
+        item.setTimeRow(&time);
+    }
+    const int intakes = kIntakes * (number + 1) / kDays - kIntakes * number / kDays;
+    for (int intake = 0; intake < intakes; ++intake) {
+        auto &food = context.insert<FoodObject>();
+        food.setType(1 + intake % kinds);
+        food.setTime(static_cast<float>(9 + intake));
+        if (intake % 2 == 0) {
+            food.setJornalDayWatter(&journal);
+        } else {
+            food.setCount(1);
+            food.setJornalDayMeat(&journal);
+        }
+    }
+}
+
 } // namespace
 
 Fixtures::Fixtures()
@@ -126,6 +164,21 @@ const QString &Fixtures::diaryFile()
         mustSave(store.context());
     }
     return diaryFile_;
+}
+
+const QString &Fixtures::jornalFile(bool tenYears)
+{
+    QString &file = tenYears ? jornalFile_ : smallJornalFile_;
+    if (file.isNull()) {
+        file = newPath();
+        OpenStore store(file);
+        for (size_t i = 0; i < days_.size(); ++i) {
+            if (tenYears || i == kJornalDay || i == kJornalDay + 1)
+                insertJornal(static_cast<int>(i), days_[i], store.context());
+        }
+        mustSave(store.context());
+    }
+    return file;
 }
 
 FileCopy::FileCopy(Fixtures &fixtures, const QString &original)

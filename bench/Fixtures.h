@@ -21,6 +21,8 @@ inline constexpr int kLines = 8000;
 inline constexpr int kCategories = 9;
 inline constexpr int kDays = 3650;
 inline constexpr int kTimeRows = 20000;
+inline constexpr int kIntakes = 40000;
+inline constexpr size_t kJornalDay = 1800; ///< the first of the two days of the smaller journal file
 
 struct LineInput
 {
@@ -56,7 +58,10 @@ public:
     // Paths of store files, closed. A trial works on a copy.
     [[nodiscard]] const QString &emptyFile();
     [[nodiscard]] const QString &catalogueFile(); ///< the dishes and their lines
-    [[nodiscard]] const QString &diaryFile();     ///< ten years of days, each with a journal, and its time rows
+    /// Days whose journals have rows with items and records of water and protein: ten years of them, or only the two
+    /// that a workload opens.
+    [[nodiscard]] const QString &jornalFile(bool tenYears);
+    [[nodiscard]] const QString &diaryFile(); ///< ten years of days, each with a journal, and its time rows
 
     [[nodiscard]] QString newPath();
 
@@ -66,7 +71,7 @@ private:
     std::vector<CategoryInput> categories_;
     std::vector<DishInput> dishes_;
     std::vector<QDateTime> days_;
-    QString emptyFile_, catalogueFile_, diaryFile_;
+    QString emptyFile_, catalogueFile_, diaryFile_, jornalFile_, smallJornalFile_;
 };
 
 /// A private copy of a store file, on the disk before this returns, removed at the end.

@@ -5,8 +5,16 @@
 #include "import/SQLiteParser.h"
 #include "journal/FoodBalanceRootViewController.h"
 #include "journal/JornalHelper.h"
+#include "journal/JornalSheduleRootViewController.h"
+#include "journal/TimeObjectAdditions.h"
+#include "journal/TimeOfDay.h"
+#include "model/DietDay.h"
 #include "model/Dish.h"
+#include "model/DishInDietDay.h"
 #include "model/DishesCategory.h"
+#include "model/JornalDay.h"
+#include "model/TimeObject.h"
+#include "model/TimeRow.h"
 #include "platform/Clock.h"
 #include "platform/Platform.h"
 #include "platform/RandomSource.h"
@@ -114,12 +122,51 @@ Filling foods()
             static_cast<int>(buttons.size())};
 }
 
+Filling timeRows()
+{
+    constexpr int rowsOfDay = 60;
+    DietDay &day = *JornalHelper::dietDayForDate(Calendar().startOfDay(QDate::currentDate()));
+    ManagedObjectContext &context = *CoreDataManager::sharedManager().managedObjectContext();
+    for (int i = 0; i < rowsOfDay; ++i) {
+        auto &row = context.insert<TimeRow>();
+        row.setTime(timeOfDay(QTime(i / 4, 15 * (i % 4) + 1)));
+        row.setCompleate(i % 3 == 0);
+        row.setRemind(i % 4 == 0);
+        day.jornalDay()->addTimeRows(row);
+        auto &item = context.insert<TimeObject>();
+        item.setType(1 + i % (timeObjectTypeCount - 1));
+        item.setValue1(2.5F);
+        row.addTimeObjects(item);
+        auto &dish = context.insert<Dish>();
+        dish.setNameRU(QStringLiteral("Сырники с отрубями №%1").arg(i));
+        auto &planned = context.insert<DishInDietDay>();
+        planned.setDish(&dish);
+        row.addDishesInDietDay(planned);
+    }
+    auto screen = std::make_unique<JornalSheduleRootViewController>(day);
+    screen->loadViewIfNeeded();
+    const int count = screen->numberOfRowsInSection(0);
+    return {std::move(screen), QStringLiteral("journal/JornalSheduleRootView"), QStringLiteral("list"), count};
+}
+
+Filling fillingOf(GridScene::Content content)
+{
+    switch (content) {
+    case GridScene::Content::Foods:
+        return foods();
+    case GridScene::Content::TimeRows:
+        return timeRows();
+    default:
+        return dishes();
+    }
+}
+
 } // namespace
 
 GridScene::GridScene(Content content, const QSize &size)
     : parts_(std::make_unique<Parts>(size))
 {
-    Filling filling = content == Content::Dishes ? dishes() : foods();
+    Filling filling = fillingOf(content);
     parts_->controller = std::move(filling.controller);
     count_ = filling.count;
     UserInterface::prepare(parts_->engine, parts_->platform);

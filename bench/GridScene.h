@@ -12,8 +12,9 @@ class GridScene
 {
 public:
     enum class Content {
-        Dishes, ///< of a category that has every dish of the shipped catalogue
-        Foods   ///< those that protein is counted of, each eaten once, and the list of what was eaten
+        Dishes,  ///< of a category that has every dish of the shipped catalogue
+        Foods,   ///< those that protein is counted of, each eaten once, and the list of what was eaten
+        TimeRows ///< of a day that has sixty, each with an item and a dish
     };
 
     GridScene(Content content, const QSize &size);

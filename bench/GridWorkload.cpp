@@ -15,6 +15,7 @@ namespace
 constexpr int kFrames = 1000;
 constexpr int kLeastDishes = 300;
 constexpr int kFoods = 40;
+constexpr int kRowsOfDay = 60;
 
 /// Down to the last tile and back to the first, as fast as a finger throws the grid.
 class Scroll final : public Trial
@@ -78,6 +79,12 @@ Workload scrollOfFoods()
 {
     return scroll("scroll of the forty foods on a phone: 1,000 frames, each food eaten", QSize(390, 744),
                   GridScene::Content::Foods, kFoods);
+}
+
+Workload scrollOfTimeRows()
+{
+    return scroll("scroll of a day of sixty rows on a phone: 1,000 frames, each row with an item and a dish",
+                  QSize(390, 744), GridScene::Content::TimeRows, kRowsOfDay);
 }
 
 } // namespace kesto::bench

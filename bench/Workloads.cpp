@@ -17,6 +17,8 @@ std::vector<Workload> allWorkloads(Fixtures &fixtures)
         lookUpByIdentity(fixtures),
         saveOfOneDay(fixtures),
         daysWithJournals(fixtures),
+        jornalOpening(fixtures),
+        jornalStep(fixtures),
         firstStart(fixtures),
         menuAtStart(fixtures),
         menuWithTenYears(fixtures),
@@ -24,6 +26,7 @@ std::vector<Workload> allWorkloads(Fixtures &fixtures)
         scrollOnPhone(),
         scrollOnTablet(),
         scrollOfFoods(),
+        scrollOfTimeRows(),
     };
     if (ChildProcess::hasDisplay())
         all.push_back(menuOnDisplay(fixtures));

@@ -15,6 +15,8 @@ class Fixtures;
 [[nodiscard]] Workload lookUpByIdentity(Fixtures &fixtures);
 [[nodiscard]] Workload saveOfOneDay(Fixtures &fixtures);
 [[nodiscard]] Workload daysWithJournals(Fixtures &fixtures);
+[[nodiscard]] Workload jornalOpening(Fixtures &fixtures);
+[[nodiscard]] Workload jornalStep(Fixtures &fixtures);
 [[nodiscard]] Workload firstStart(Fixtures &fixtures);
 [[nodiscard]] Workload menuOnDisplay(Fixtures &fixtures);
 [[nodiscard]] Workload menuAtStart(Fixtures &fixtures);
@@ -23,6 +25,7 @@ class Fixtures;
 [[nodiscard]] Workload scrollOnPhone();
 [[nodiscard]] Workload scrollOnTablet();
 [[nodiscard]] Workload scrollOfFoods();
+[[nodiscard]] Workload scrollOfTimeRows();
 
 /// All of them, in the order of the table. A new workload is a function above, a file, and a line in there.
 [[nodiscard]] std::vector<Workload> allWorkloads(Fixtures &fixtures);

@@ -7,7 +7,8 @@
 namespace kesto
 {
 
-/// Screens side by side behind tabs, named by their tabBarTitle and tabBarImage; the selected one is shown.
+/// Screens side by side behind tabs, named by their tabBarTitle and tabBarImage; the selected one is shown, and its bar
+/// buttons follow the container's own.
 class TabBarController : public ViewController
 {
     Q_OBJECT
@@ -25,6 +26,9 @@ public:
     /// An index without a tab changes nothing.
     void setSelectedIndex(int index);
     [[nodiscard]] ViewController *selectedViewController() const { return tabs_.value(selectedIndex_); }
+
+    [[nodiscard]] QList<BarButtonItem *> leftBarButtonItems() const override;
+    [[nodiscard]] QList<BarButtonItem *> rightBarButtonItems() const override;
 
 Q_SIGNALS:
     void viewControllersChanged();

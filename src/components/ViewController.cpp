@@ -3,6 +3,7 @@
 #include "components/NavigationController.h"
 #include "components/PopoverController.h"
 #include "components/SideMenuContainer.h"
+#include "components/TitleStepper.h"
 #include "components/Window.h"
 #include "platform/StringTables.h"
 
@@ -27,6 +28,12 @@ void ViewController::setTitle(const QString &title)
     Q_EMIT titleChanged();
     if (tabBarTitle_.isNull())
         Q_EMIT tabBarItemChanged();
+}
+
+void ViewController::setTitleStepper(std::unique_ptr<TitleStepper> stepper)
+{
+    titleStepper_ = std::move(stepper);
+    Q_EMIT titleChanged();
 }
 
 QString ViewController::viewName() const

@@ -14,6 +14,7 @@ namespace kesto
 
 class NavigationController;
 class PopoverController;
+class TitleStepper;
 
 /// A screen: its title, its buttons, what it has open. Subclasses carry Q_OBJECT: the class's name finds the view that
 /// draws it.
@@ -36,15 +37,20 @@ class ViewController : public QObject
     Q_PROPERTY(QList<kesto::BarButtonItem *> leftBarButtonItems READ leftBarButtonItems NOTIFY barButtonItemsChanged)
     Q_PROPERTY(QList<kesto::BarButtonItem *> rightBarButtonItems READ rightBarButtonItems NOTIFY barButtonItemsChanged)
     Q_PROPERTY(QList<kesto::BarButtonItem *> toolbarItems READ toolbarItems NOTIFY barButtonItemsChanged)
+    Q_PROPERTY(kesto::TitleStepper *titleStepper READ titleStepper NOTIFY titleChanged)
     Q_PROPERTY(bool isVisible READ isVisible NOTIFY isVisibleChanged)
     Q_PROPERTY(kesto::PopoverController *popover READ popover NOTIFY popoverChanged)
     Q_MOC_INCLUDE("components/PopoverController.h")
+    Q_MOC_INCLUDE("components/TitleStepper.h")
 public:
     explicit ViewController(QObject *parent = nullptr);
     ~ViewController() override;
 
     [[nodiscard]] QString title() const { return title_; }
     void setTitle(const QString &title);
+    /// What a bar shows in place of the title; null for the title.
+    [[nodiscard]] TitleStepper *titleStepper() const { return titleStepper_.get(); }
+    void setTitleStepper(std::unique_ptr<TitleStepper> stepper);
     /// The view that draws this screen: the class's name with "View" for "ViewController".
     [[nodiscard]] virtual QString viewName() const;
 
@@ -54,8 +60,8 @@ public:
     void setTabBarItem(const QString &title, const QString &image);
 
     /// The buttons at the left: the one that opens the menu, then this screen's own.
-    [[nodiscard]] QList<BarButtonItem *> leftBarButtonItems() const;
-    [[nodiscard]] QList<BarButtonItem *> rightBarButtonItems() const { return pointers(rightItems_); }
+    [[nodiscard]] virtual QList<BarButtonItem *> leftBarButtonItems() const;
+    [[nodiscard]] virtual QList<BarButtonItem *> rightBarButtonItems() const { return pointers(rightItems_); }
     [[nodiscard]] QList<BarButtonItem *> toolbarItems() const { return pointers(toolbarItems_); }
     /// The screen owns its buttons; those that are replaced are destroyed when the event loop turns. A null item
     /// clears.
@@ -164,6 +170,7 @@ private:
     void dismissPresented(bool animated);
 
     QString title_;
+    std::unique_ptr<TitleStepper> titleStepper_;
     QString tabBarTitle_;
     QString tabBarImage_;
     BarButtonItems leftItems_;

@@ -11,6 +11,17 @@ DietDay *DishInDietDay::dietDays() const { return one<"dietDays">(); }
 
 void DishInDietDay::setDietDays(DietDay *value) { setOne<"dietDays">(value); }
 
+QString DishInDietDay::displayName() const
+{
+    QString name;
+    if (const Dish *planned = dish()) {
+        name = planned->displayName();
+        for (const QString &other : {planned->nameRU(), planned->nameENG()})
+            name = name.isEmpty() ? other : name;
+    }
+    return name.isEmpty() ? QStringLiteral("-") : name;
+}
+
 Dish *DishInDietDay::dish() const { return one<"dish">(); }
 
 void DishInDietDay::setDish(Dish *value) { setOne<"dish">(value); }

@@ -22,6 +22,9 @@ public:
     [[nodiscard]] std::optional<int> displayOrder() const { return get<"displayOrder">(); } ///< 0-based within its list
     void setDisplayOrder(std::optional<int> value) { set<"displayOrder">(value); }
 
+    /// The dish's name in the language of the interface, else in the other language, else "-".
+    [[nodiscard]] QString displayName() const;
+
     [[nodiscard]] DietDay *dietDays() const; ///< one day, despite its name
     void setDietDays(DietDay *value);
     [[nodiscard]] Dish *dish() const;

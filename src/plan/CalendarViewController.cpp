@@ -3,6 +3,7 @@
 #include "components/DayWatch.h"
 #include "components/NavigationController.h"
 #include "model/DietDay.h"
+#include "model/DishInDietDay.h"
 #include "plan/DayDishes.h"
 #include "plan/DayTexts.h"
 #include "plan/PlanContext.h"
@@ -107,7 +108,7 @@ void CalendarViewController::readDay()
     dishes_.clear();
     if (day != nullptr && dayScreen_ == nullptr) {
         for (const DishInDietDay *planned : dishesOfDay(*day))
-            dishes_.append(nameOfPlanned(*planned));
+            dishes_.append(planned->displayName());
     }
     footer_.fillFields(day);
     footer_.setDietPeriod(dietPeriod_, day, currentDate_);

@@ -14,6 +14,7 @@
 #include "platform/Platform.h"
 #include "platform/StringTables.h"
 #include "platform/UserDefaults.h"
+#include "recipes/QuickDish.h"
 #include "store/CoreDataManager.h"
 
 #include <algorithm>
@@ -206,7 +207,7 @@ TableRow DietDayDetailViewController::dishRow(const DishInDietDay &planned) cons
 {
     const bool opens = planned.dish() != nullptr;
     return {.id = QString::number(planned.objectID()),
-            .title = nameOfPlanned(planned),
+            .title = planned.displayName(),
             .accessory = opens ? TableRow::Accessory::Disclosure : TableRow::Accessory::None,
             .selectable = opens,
             .canDelete = true,
@@ -265,7 +266,7 @@ void DietDayDetailViewController::didSelectRow(const IndexPath &path, const RowI
             openFavorites();
             break;
         case AddQuickDishRow:
-            askForQuickDish();
+            askForQuickDish(this, [this](Dish &dish) { addDish(dish); });
             break;
         case AutoFillRow:
             autoFillDay();

@@ -12,7 +12,6 @@
 namespace kesto
 {
 
-struct AlertAnswer;
 class DietDay;
 class Dish;
 class DishInDietDay;
@@ -100,8 +99,6 @@ private:
     void openFavorites();
     void openChoice(std::unique_ptr<ViewController> choice, AddRow from);
     void openDish(Dish &dish);
-    void askForQuickDish();
-    void quickDishNamed(const AlertAnswer &answer);
 
     DietDayDetailViewControllerDelegate *delegate_;
     QDateTime date_;

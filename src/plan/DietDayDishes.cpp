@@ -35,8 +35,6 @@ QSizeF choiceSize()
     return {width, std::min(Window::sharedWindow().size().height() / 2 - rowAndMargins, highest)};
 }
 
-enum QuickDishButton { CancelButton, AddButton, AddToCartButton };
-
 } // namespace
 
 DishInDietDay *DietDayDetailViewController::plan(Dish &dish)
@@ -117,31 +115,6 @@ void DietDayDetailViewController::openDish(Dish &dish)
     auto detail = std::make_unique<DishDetailViewController>();
     detail->setDish(&dish);
     stack->pushViewController(std::move(detail), true);
-}
-
-void DietDayDetailViewController::askForQuickDish()
-{
-    Alert alert;
-    alert.title = localized(QStringLiteral("Добавить быстрое блюдо"));
-    alert.textField = Alert::TextField{.placeholder = localized(QStringLiteral("Название блюда"))};
-    alert.buttons = {{localized(QStringLiteral("Отменить")), Alert::Role::Cancel},
-                     {localized(QStringLiteral("Добавить"))},
-                     {localized(QStringLiteral("Добавить, и внести в корзину"))}};
-    alert.context = this;
-    alert.answered = [this](const AlertAnswer &answer) { quickDishNamed(answer); };
-    AlertCenter::sharedCenter().show(std::move(alert));
-}
-
-void DietDayDetailViewController::quickDishNamed(const AlertAnswer &answer)
-{
-    if (answer.buttonIndex == CancelButton || answer.text.isEmpty() || day() == nullptr)
-        return;
-    auto &dish = planContext().insert<Dish>();
-    dish.setNameENG(answer.text);
-    dish.setNameRU(answer.text);
-    addDishToDietDay(dish, planContext());
-    if (answer.buttonIndex == AddToCartButton)
-        CoreDataManager::sharedManager().addIngredientToCard(dish.nameENG());
 }
 
 } // namespace kesto

@@ -46,7 +46,8 @@ void FavoritesViewController::reloadData()
 {
     std::vector<Dish *> dishes = FavoritesManager::sharedManager().favoritiesDishes();
     Dish::sortByDisplayName(dishes);
-    const QVariantList items = choice_.isAddMode() ? itemsOfPhase(itemsOf(dishes), period_) : itemsOf(dishes);
+    const QVariantList items =
+        choice_.isAddMode() && period_ >= 0 ? itemsOfPhase(itemsOf(dishes), period_) : itemsOf(dishes);
     content_ = SKHelpManager::groupedItemsByFirstLetterInNameFromItems(items, localized(QStringLiteral("nameKey")))
                    .value_or(QVariantList());
     included_ = choice_.isAddMode() ? dishesPlannedFor(day_) : QSet<const Dish *>();

@@ -20,7 +20,7 @@ public:
     FavoritesViewController();
 
     void setDay(DietDay *day) { day_ = day; }
-    /// The phase of the day, 0 to 3.
+    /// The phase of the day, 0 to 3; a day before the diet has none, and all favourites suit it.
     void setPeriod(int period) { period_ = period; }
     /// Set it before the view loads.
     void setIsAddMode(bool isAddMode) { choice_.setAddMode(isAddMode); }

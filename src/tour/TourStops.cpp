@@ -10,6 +10,7 @@
 #include "tour/TourStopsBalance.h"
 #include "tour/TourStopsCart.h"
 #include "tour/TourStopsGraph.h"
+#include "tour/TourStopsJornal.h"
 #include "tour/TourStopsPlan.h"
 #include "tour/TourStopsRecipes.h"
 
@@ -54,8 +55,10 @@ QList<TourStop> tourStops()
     stops += calendarTourStops();
     stops += QList<TourStop>{
         {QStringLiteral("journal"), row(7)},
+        {QStringLiteral("graph"), row(5)},
     };
     stops += balanceTourStops();
+    stops += jornalTourStops(); // with what was drunk and eaten there
     stops += productTourStops();
     stops += catalogueTourStops();
     stops += dishTourStops();

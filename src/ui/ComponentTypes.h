@@ -12,6 +12,7 @@
 #include "components/TabBarController.h"
 #include "components/TableModel.h"
 #include "components/TableViewController.h"
+#include "components/TitleStepper.h"
 #include "components/Window.h"
 
 #include <QtQml/qqmlregistration.h>
@@ -33,6 +34,14 @@ struct BarButtonItemType
     Q_GADGET
     QML_FOREIGN(kesto::BarButtonItem)
     QML_NAMED_ELEMENT(BarButtonItem)
+    QML_UNCREATABLE("made in C++")
+};
+
+struct TitleStepperType
+{
+    Q_GADGET
+    QML_FOREIGN(kesto::TitleStepper)
+    QML_NAMED_ELEMENT(TitleStepper)
     QML_UNCREATABLE("made in C++")
 };
 

@@ -48,6 +48,8 @@ TEST_F(BalanceWindowTest, APersonLogsADrinkAndThreeFoodsAndSetsATimer)
         person().presses(key);
     EXPECT_TRUE(person().waitsToSee(QAccessible::Slider, QStringLiteral("Mug, 310 ml")))
         << person().focus().toStdString();
+    ASSERT_TRUE(
+        person().waitsUntilGone(QAccessible::Button, QStringLiteral("Next day"))); // the journal has a "Close", too
     ASSERT_TRUE(button("Close"));
     EXPECT_TRUE(shows("310 ml/2400 ml"));
 

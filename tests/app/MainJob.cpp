@@ -1,5 +1,6 @@
 #include "app/MainJob.h"
 
+#include "app/MainJobJornal.h"
 #include "app/Person.h"
 #include "app/Program.h"
 #include "model/DietDay.h"
@@ -59,6 +60,7 @@ public:
     void moveFirstDishToTheEnd() const;
     void likeFirstDishAndBuyIt() const;
     void shop() const;
+    void openJournal() const;
 
 private:
     void touches(QAccessible::Role role, const QString &name) const { ASSERT_TRUE(user_.touches(role, name)); }
@@ -208,6 +210,14 @@ void MainJobPerson::shop() const
     ASSERT_EQ(shoppingList().size(), before.size());
 }
 
+void MainJobPerson::openJournal() const
+{
+    if (job_.device == Device::Phone)
+        touches(button, u("Меню"));
+    touches(row, u("Дневник диеты"));
+    keepJournal(user_);
+}
+
 } // namespace
 
 QStringList plannedDishes()
@@ -276,11 +286,13 @@ void liveThroughMainJob(const MainJob &job, const QString &dataFolder)
     person.moveFirstDishToTheEnd();
     person.likeFirstDishAndBuyIt();
     person.shop();
+    person.openJournal();
     // What the next start must find, for the test that reads this output.
     std::cout << "PLAN " << plannedDishes().join(u'|').toStdString() << std::endl;
     std::cout << "FIGURES " << figures().join(u'|').toStdString() << std::endl;
     std::cout << "LIST " << shoppingList().join(u'|').toStdString() << std::endl;
     std::cout << "LIKED " << FavoritesManager::sharedManager().dishesIDS().join(u'|').toStdString() << std::endl;
+    std::cout << "JOURNAL " << journalOfToday().join(u'|').toStdString() << std::endl;
     QCoreApplication::processEvents(); // the user defaults are written when the event loop turns
     std::raise(SIGKILL);
 }

@@ -25,8 +25,8 @@ inline const MainJob mainJobs[] = {{"phone", Device::Phone, QSize(390, 844)},
 /// The instant at which the clock of the job stands still.
 inline QDateTime mainJobNow() { return {QDate(2026, 3, 2), QTime(9, 30), Qt::UTC}; }
 
-/// From the first start in an empty folder to the shopping list, by pointer and keys. Ends by killing this process,
-/// having printed what there was; when something is not as it should be, with a failed assertion instead.
+/// From the first start in an empty folder to the shopping list and the journal, by pointer and keys. Ends by killing
+/// this process, having printed what there was; when something is not as it should be, with a failed assertion instead.
 void liveThroughMainJob(const MainJob &job, const QString &dataFolder);
 
 /// What the store holds: the Russian names of today's dishes in their order, and the lines "name=count", "*" behind a

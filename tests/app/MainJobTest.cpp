@@ -1,5 +1,6 @@
 #include "app/MainJob.h"
 
+#include "app/MainJobJornal.h"
 #include "app/Person.h"
 #include "app/Program.h"
 #include "model/DietDay.h"
@@ -66,6 +67,14 @@ TEST_P(MainJobTest, EverythingIsThereAfterAKill)
     EXPECT_TRUE(figures().contains(QStringLiteral("Вес=92.0 кг"))) << figures().join(u'|').toStdString();
     EXPECT_EQ(FavoritesManager::sharedManager().dishesIDS(), printed(output, QStringLiteral("LIKED")));
     EXPECT_EQ(FavoritesManager::sharedManager().favoritiesDishes().size(), 1U);
+    const QStringList journal = journalOfToday();
+    EXPECT_EQ(journal, printed(output, QStringLiteral("JOURNAL")));
+    EXPECT_EQ(journal.filter(QStringLiteral(" done")).size(), 2);
+    EXPECT_EQ(journal.filter(QStringLiteral("reminds 2026-03-02 17:00:00 +0000")).size(), 1);
+    EXPECT_TRUE(journal.contains(QStringLiteral("notification 2026-03-02 17:00:00 +0000 Пора на пробежку")));
+    EXPECT_EQ(journal.filter(QStringLiteral("drink 2")).size(), 1);
+    EXPECT_EQ(journal.filter(QStringLiteral("food ")).size(), 3);
+    EXPECT_TRUE(journal.constLast().startsWith(QStringLiteral("timer 2026-03-02"))) << journal.join(u'|').toStdString();
     const DietDay *day = DietDay::dayWithoutCreation(program->platform().calendar().startOfDay(QDate(2026, 3, 2)),
                                                      *CoreDataManager::sharedManager().managedObjectContext());
     ASSERT_NE(day, nullptr);

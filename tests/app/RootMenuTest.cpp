@@ -2,6 +2,7 @@
 
 #include "components/NavigationController.h"
 #include "components/SideMenuContainer.h"
+#include "components/TitleStepper.h"
 #include "plan/CalendarViewController.h"
 
 namespace kesto::test
@@ -226,6 +227,15 @@ TEST_F(RootMenuTest, TheCalendarLeadsToTheDayAndItsJournal)
     stack->topViewController()->close();
     calendar->openDaySettings();
     EXPECT_EQ(stack->topViewController()->title(), QStringLiteral("07 марта"));
+
+    // A journal that is replaced has left its day when the calendar looks.
+    menu().openRow(7);
+    EXPECT_EQ(mainScreen()->titleStepper()->text(), QStringLiteral("7 мар."));
+    menu().openRow(6);
+    calendar = qobject_cast<CalendarViewController *>(mainScreen());
+    ASSERT_NE(calendar, nullptr);
+    const CalendarMonth &month = *calendar->month();
+    EXPECT_FALSE(month.cells()[month.indexOf(platform_.date(2024, 3, 7))].hasJornal);
 }
 
 TEST_F(RootMenuTest, OtherScreensReachTheMainContentThroughTheShell)

@@ -6,9 +6,12 @@
 #include "components/Window.h"
 #include "journal/FoodBalanceRootViewController.h"
 #include "journal/JornalHelper.h"
+#include "journal/JornalSheduleRootViewController.h"
 #include "journal/JornalTabBarController.h"
+#include "journal/TimeRowDetailViewController.h"
 #include "journal/TimerViewController.h"
 #include "journal/WaterBalanceRootViewController.h"
+#include "model/TimeRow.h"
 #include "platform/Platform.h"
 #include "platform/StringTables.h"
 #include "platform/UserDefaults.h"
@@ -195,6 +198,26 @@ TEST_P(TextSizeTest, WaterProteinAndTimer)
     jornal.water()->actionButtonTouched(WaterBalanceRootViewController::VolumeAction);
     settle();
     expectReadable(*jornal.water()->presentedViewController());
+}
+
+TEST_P(TextSizeTest, TheJournalAndTheEditorOfARow)
+{
+    ASSERT_NO_FATAL_FAILURE(open(1));
+    auto made = JornalHelper::jornalTabBarVCForToday();
+    JornalTabBarController &jornal = *made;
+    TimeRow &row = *jornal.shedule()->content()[2];
+    TimeRowDetailViewController editor(row);
+    editor.waterValueChanged(8);
+    for (const int tag : {2, 102, 4, 8, 108})
+        editor.endEditing(tag, QStringLiteral("12345.5"));
+    editor.endEditing(TimeRowDetailViewController::otherTag, QStringLiteral("Позвонить врачу"));
+    row.setRemind(true);
+    Shell::current()->openDetailViewController(std::move(made));
+    settle();
+    expectReadable(*container().centerViewController());
+    jornal.openRow(row);
+    settle();
+    expectReadable(*container().centerViewController());
 }
 
 /// The smallest windows: no word of what asks is lost, nor is one of its buttons.

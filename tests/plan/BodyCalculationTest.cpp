@@ -1,5 +1,6 @@
 #include "plan/BodyCalculation.h"
 #include "support/Printing.h"
+#include "util/TypedNumber.h"
 
 #include <gmock/gmock.h>
 

@@ -33,8 +33,8 @@ public:
     [[nodiscard]] int applicationIconBadgeNumber() const override { return badgeNumber_; }
     void setApplicationIconBadgeNumber(int number) override { badgeNumber_ = number; }
 
-    /// From now on it takes no notification, like a system that the user forbade to show any.
-    void refuse() { refusing_ = true; }
+    /// Whether it takes notifications from now on; a system that the user forbade to show any does not.
+    void refuse(bool refusing = true) { refusing_ = refusing; }
     /// The earliest fires now, whatever its date; there is one.
     void fireFirst() { Q_EMIT didReceive(waiting_.takeFirst()); }
 

@@ -6,6 +6,8 @@ Rectangle {
     id: bar
 
     property string title
+    /*! In place of the title. */
+    property TitleStepper stepper: null
     property bool canGoBack: false
     property string backTitle
     property var leftItems: []
@@ -59,6 +61,7 @@ Rectangle {
         x: bar.centred ? bar.side : bar.leftEnd + Tokens.half
         width: bar.centred ? bar.width - 2 * bar.side : bar.width - bar.leftEnd - right.width - Tokens.unit
         anchors.verticalCenter: parent.verticalCenter
+        visible: bar.stepper === null
         text: bar.title
         color: Tokens.colors.barTitle
         style: Text.Raised
@@ -84,6 +87,13 @@ Rectangle {
             font.weight: Font.Light
             wrapMode: Text.NoWrap
         }
+    }
+    Loader {
+        x: Math.max(bar.leftEnd, Math.min((bar.width - width) / 2, bar.width - right.width - width))
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(implicitWidth, bar.width - bar.leftEnd - right.width)
+        active: bar.stepper !== null
+        sourceComponent: StepperTitle { stepper: bar.stepper }
     }
     BarItems {
         id: right

@@ -16,6 +16,8 @@ TableBase {
     property real topMargin: Tokens.unit
     property real bottomMargin: Tokens.wide
     readonly property alias list: list
+    /*! Over the rows; scrolls with them. A FocusScope, which may have the keys instead of a row. */
+    property alias header: list.header
     property bool byKeyboard: false
     property TableLine openLine: null
 
@@ -59,7 +61,7 @@ TableBase {
     }
     /*! The keys come: to the first row that can be seen. */
     function enter(): void {
-        if (list.currentIndex >= 0 || list.count === 0)
+        if (list.currentIndex >= 0 || list.count === 0 || list.headerItem?.activeFocus)
             return;
         list.forceLayout();
         let i = Math.max(0, list.indexAt(list.width / 2, list.contentY + 1));

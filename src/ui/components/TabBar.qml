@@ -1,16 +1,20 @@
 import QtQuick
 import Kesto
 
-/*! The tabs of a container, at the bottom. */
+/*! The tabs of some screens, at the bottom. */
 Rectangle {
     id: bar
 
-    required property TabBarController controller
+    required property string title
+    required property var screens
+    required property int selected
+
+    signal chosen(int index)
 
     implicitHeight: row.height
     color: Tokens.colors.bar
     Accessible.role: Accessible.PageTabList
-    Accessible.name: controller.title
+    Accessible.name: title
 
     Rectangle {
         width: parent.width
@@ -25,7 +29,7 @@ Rectangle {
         Repeater {
             id: repeater
 
-            model: bar.controller.viewControllers
+            model: bar.screens
 
             TabButton {
                 required property ViewController modelData
@@ -34,8 +38,8 @@ Rectangle {
                 width: row.width / repeater.count
                 text: modelData.tabBarTitle
                 picture: modelData.tabBarImage
-                chosen: index === bar.controller.selectedIndex
-                onClicked: bar.controller.selectedIndex = index
+                chosen: index === bar.selected
+                onClicked: bar.chosen(index)
                 Keys.onLeftPressed: if (index > 0) passFocus(false)
                 Keys.onRightPressed: if (index + 1 < repeater.count) passFocus(true)
             }

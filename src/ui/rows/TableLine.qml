@@ -30,7 +30,7 @@ LineItem {
         if (!shown.isRow)
             return "HeaderLine.qml";
         switch (shown.kind) {
-        case TableRow.Editable: return "FieldLine.qml";
+        case TableRow.Editable: return shown.cell.length > 0 ? ViewLocator.file(shown.cell) : "FieldLine.qml";
         case TableRow.Editor: return "EditorLine.qml";
         case TableRow.Switch: return "SwitchLine.qml";
         case TableRow.Picker: return "PickerLine.qml";

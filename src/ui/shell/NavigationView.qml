@@ -102,6 +102,7 @@ FocusScope {
 
         width: parent.width
         title: view.topController ? view.topController.title : ""
+        stepper: view.topController?.titleStepper ?? null
         canGoBack: view.controller.canGoBack
         backTitle: view.controller.backButtonTitle
         leftItems: view.topController ? view.topController.leftBarButtonItems : []
