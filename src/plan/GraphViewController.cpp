@@ -456,7 +456,7 @@ Result<QString> GraphViewController::savedPicture(const QImage &picture) const
     const QString day = platform.calendar().dayOf(platform.clock().now()).toString(Qt::ISODate);
     for (int i = 1;; ++i) {
         const QString suffix = i == 1 ? QString() : QStringLiteral("-%1").arg(i);
-        const QString path = folder.filePath(QStringLiteral("kesto-%1%2.png").arg(day, suffix));
+        const QString path = folder.filePath(QStringLiteral("kesto-%1%2.%3").arg(day, suffix, QStringLiteral("png")));
         if (QFileInfo::exists(path))
             continue;
         if (const Result<void> written = AtomicFile::write(png.data(), path); !written)

@@ -55,7 +55,6 @@ QList<TourStop> tourStops()
     stops += calendarTourStops();
     stops += QList<TourStop>{
         {QStringLiteral("journal"), row(7)},
-        {QStringLiteral("graph"), row(5)},
     };
     stops += balanceTourStops();
     stops += jornalTourStops(); // with what was drunk and eaten there

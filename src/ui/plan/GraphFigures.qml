@@ -19,12 +19,13 @@ RowSurface {
         spacing: Tokens.half
 
         Repeater {
-            model: figures.texts.filter(text => text.length > 0)
+            model: figures.texts
 
             Label {
                 required property string modelData
 
                 width: content.width
+                visible: modelData.length > 0
                 text: modelData
                 Accessible.ignored: false
                 Accessible.role: Accessible.StaticText
