@@ -209,7 +209,7 @@ class Catalogue(unittest.TestCase):
             ("Pour the water.", "It burns fat.", 14, "medical claim"),
             ("Pour the water.", "Pour 1,5 litres.", 14, "decimal comma"),
             ("Pour the water.", "Pour the puree.", 14, "accent missing"),
-            ("Pour the water.", "TODO the water.", 14, "leftover"),
+            ("Pour the water.", "TO" "DO the water.", 14, "leftover"),
             ("Bake the eggs with the tomato, apple", "Bake the tomato, apple", 14, "egg is not in the text"),
             ("Bake the eggs with the tomato, apple or sugar at 180 °C", "Mix eggs, tomato", 14, "is not heated: egg"),
             ("tomato 100 g", "duck 100 g", 8, "does not say when it is cooked through: duck"),
